@@ -1,0 +1,49 @@
+# quor_tests(<folder> FILES <file>... [LIBRARIES <target>...])
+#
+# One test program for a folder of tests: tests/<folder>/<header>_test.cpp for each
+# public header include/quor/<folder>/<header>.hpp. Every case becomes a CTest test
+# of its own named <folder>.<suite>.<case>.
+#
+# quor_internal_tests(<folder> FILES <file>... [PLATFORM <object library>])
+#
+# The same for tests that reach private headers: linked to the library's objects
+# instead of the shared library, with src/ on the include path, and with
+# another platform where PLATFORM names one.
+
+include(GoogleTest)
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+
+# The test framework's headers are compiled once.
+add_library(quor_test_framework STATIC "${PROJECT_SOURCE_DIR}/tests/support/framework.cpp")
+target_link_libraries(quor_test_framework PUBLIC quor_compiler GTest::gtest GTest::gtest_main)
+target_include_directories(quor_test_framework PUBLIC "${PROJECT_SOURCE_DIR}/tests")
+target_precompile_headers(quor_test_framework PRIVATE <gtest/gtest.h> <algorithm> <map> <random> <string> <vector>)
+
+function(quor_add_test_program name folder)
+  cmake_parse_arguments(PARSE_ARGV 2 test "" "" "FILES;LIBRARIES;LABELS")
+  list(TRANSFORM test_FILES PREPEND "${PROJECT_SOURCE_DIR}/tests/${folder}/")
+  add_executable(${name} ${test_FILES})
+  target_link_libraries(${name} PRIVATE quor_test_framework Threads::Threads ${test_LIBRARIES})
+  target_precompile_headers(${name} REUSE_FROM quor_test_framework)
+  string(REPLACE "/" "." prefix "${folder}")
+  gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 LABELS "${prefix};${test_LABELS}")
+endfunction()
+
+function(quor_tests folder)
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "FILES;LIBRARIES;LABELS")
+  string(REPLACE "/" "_" name "${folder}")
+  quor_add_test_program(test_${name} ${folder} FILES ${test_FILES} LIBRARIES quor ${test_LIBRARIES} LABELS ${test_LABELS})
+endfunction()
+
+function(quor_internal_tests folder)
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "PLATFORM" "FILES;LIBRARIES;LABELS")
+  string(REPLACE "/" "_" name "${folder}")
+  if(NOT test_PLATFORM)
+    set(test_PLATFORM quor_platform)
+  endif()
+  quor_add_test_program(test_internal_${name} ${folder} FILES ${test_FILES}
+    LIBRARIES quor_objects ${test_PLATFORM} ${test_LIBRARIES} LABELS ${test_LABELS})
+  target_include_directories(test_internal_${name} PRIVATE "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
+endfunction()

@@ -1,0 +1,27 @@
+#ifndef QUOR_EXPORT_HPP
+#define QUOR_EXPORT_HPP
+
+/// @file
+/// The export macro `QUOR_API`, which marks every class and function that lives
+/// in the shared library. Which form it takes is the build's decision: the
+/// library's own build defines `QUOR_DLL_EXPORT` and its users `QUOR_DLL_IMPORT`
+/// where the target's shared libraries need it (the CMake package and the
+/// pkg-config file pass the right one on); elsewhere it sets the visibility.
+///
+///     class QUOR_API widget { ... };
+///
+/// @since 2.9
+
+#include <quor/version.hpp>
+
+#if defined(QUOR_DLL_EXPORT)
+#  define QUOR_API __declspec(dllexport)
+#elif defined(QUOR_DLL_IMPORT)
+#  define QUOR_API __declspec(dllimport)
+#elif defined(__GNUC__)
+#  define QUOR_API __attribute__((visibility("default")))
+#else
+#  define QUOR_API
+#endif
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef QUOR_QUOR_HPP
+#define QUOR_QUOR_HPP
+
+/// @file
+/// The whole library in one include, and `quor` as a short name of its versioned
+/// namespace. Include the header of one class instead where compile time matters.
+///
+///     #include <quor/quor.hpp>
+///     quor::strings::ustring8 text("hello");
+///
+/// @since 2.9
+
+#include <quor/debug/invalid_parameter.hpp>
+#include <quor/debug/output.hpp>
+#include <quor/export.hpp>
+#include <quor/strings/ustring.hpp>
+#include <quor/types/nil.hpp>
+#include <quor/types/widths.hpp>
+#include <quor/version.hpp>
+
+/// Short name of the library's versioned namespace.
+namespace quor = QUOR_2_9;
+
+#endif
