@@ -65,16 +65,14 @@ basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left, basic_us
 
 /// Joins a text and a standard string of the same unit.
 template <class Unit, class Traits>
-basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left,
-                                      std::basic_string<Unit, Traits> const &right) {
+basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left, std::basic_string<Unit, Traits> const &right) {
 	left.append(right);
 	return left;
 }
 
 /// Joins a standard string and a text of the same unit.
 template <class Unit, class Traits>
-basic_ustring<Unit, Traits> operator+(std::basic_string<Unit, Traits> left,
-                                      basic_ustring<Unit, Traits> const &right) {
+basic_ustring<Unit, Traits> operator+(std::basic_string<Unit, Traits> left, basic_ustring<Unit, Traits> const &right) {
 	left.append(right);
 	return basic_ustring<Unit, Traits>(std::move(left));
 }
