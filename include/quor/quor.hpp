@@ -13,6 +13,9 @@
 #include <quor/debug/invalid_parameter.hpp>
 #include <quor/debug/output.hpp>
 #include <quor/export.hpp>
+#include <quor/i18n/message.hpp>
+#include <quor/i18n/message_item.hpp>
+#include <quor/i18n/value_formatters.hpp>
 #include <quor/strings/ustring.hpp>
 #include <quor/types/nil.hpp>
 #include <quor/types/widths.hpp>
