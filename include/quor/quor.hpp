@@ -17,6 +17,9 @@
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
 #include <quor/strings/ustring.hpp>
+#include <quor/system/directory.hpp>
+#include <quor/system/file.hpp>
+#include <quor/system/io.hpp>
 #include <quor/types/nil.hpp>
 #include <quor/types/widths.hpp>
 #include <quor/version.hpp>
