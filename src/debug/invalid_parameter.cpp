@@ -3,12 +3,15 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace QUOR_2_9::debug {
 namespace {
 
 [[noreturn]] void report_and_abort(char const *what, char const *file, unsigned int line) {
-	std::fprintf(stderr, "quor: invalid parameter: %s (%s, line %u)\n", what, file, line);
+	std::string text("quor: invalid parameter: ");
+	text.append(what).append(" (").append(file).append(", line ").append(std::to_string(line)).append(")\n");
+	std::fputs(text.c_str(), stderr);
 	std::abort();
 }
 

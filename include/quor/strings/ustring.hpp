@@ -57,6 +57,7 @@ using ustring16 = basic_ustring<types::wide_char>;
 using ustring32 = basic_ustring<types::utf32_char, types::utf32_traits>;
 
 /// Joins two texts; the result keeps the class. Linear in both.
+/// @since 2.9
 template <class Unit, class Traits>
 basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left, basic_ustring<Unit, Traits> const &right) {
 	left.append(right);
@@ -110,6 +111,7 @@ basic_ustring<Unit, Traits> operator+(Unit left, basic_ustring<Unit, Traits> con
 } // namespace QUOR_2_9::strings
 
 /// Hashes the units as they stand, so that the three classes can key unordered containers.
+/// @since 2.9
 template <class Unit, class Traits>
 struct std::hash<QUOR_2_9::strings::basic_ustring<Unit, Traits>> {
 	/// The hash of the text's bytes.

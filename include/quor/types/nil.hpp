@@ -16,6 +16,7 @@
 namespace QUOR_2_9::types {
 
 /// The type of the empty marker; it holds nothing and all its objects are alike.
+/// @since 2.9
 class nil_t {
 public:
 	/// The empty marker.

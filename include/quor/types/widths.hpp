@@ -212,11 +212,13 @@ static_assert(std::is_trivially_copyable_v<long_t> && std::is_trivially_copyable
 /// A string or character literal of 32-bit units: `QUOR_U32("text")`, `QUOR_U32('c')`.
 #if defined(_WIN32)
 #  define QUOR_W(literal) L##literal
-#  define QUOR_U32(literal)                                                                                            \
-	([]() noexcept {                                                                                                   \
-static constexpr auto quor_literal = ::QUOR_2_9::types::detail::utf32_literal(U##literal);                             \
-return ::QUOR_2_9::types::detail::utf32_literal_value(quor_literal);                                                   \
+// clang-format off
+#  define QUOR_U32(literal) \
+	([]() noexcept { \
+		static constexpr auto quor_literal = ::QUOR_2_9::types::detail::utf32_literal(U##literal); \
+		return ::QUOR_2_9::types::detail::utf32_literal_value(quor_literal); \
 	}())
+// clang-format on
 #else
 #  define QUOR_W(literal) u##literal
 #  define QUOR_U32(literal) U##literal
