@@ -12,7 +12,12 @@
 
 #include <quor/debug/invalid_parameter.hpp>
 #include <quor/debug/output.hpp>
+#include <quor/exceptions/exception.hpp>
+#include <quor/exceptions/logic_error.hpp>
+#include <quor/exceptions/runtime_error.hpp>
 #include <quor/export.hpp>
+#include <quor/generic/convert/ltoa.hpp>
+#include <quor/generic/convert/str_to_x.hpp>
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
@@ -21,6 +26,7 @@
 #include <quor/system/file.hpp>
 #include <quor/system/io.hpp>
 #include <quor/types/nil.hpp>
+#include <quor/types/radix.hpp>
 #include <quor/types/widths.hpp>
 #include <quor/version.hpp>
 

@@ -1,0 +1,215 @@
+#include "generic/convert/decimal_text.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+namespace QUOR_2_9::generic::convert::detail {
+namespace {
+
+constexpr int most_digits = 340;
+
+bool is_digit(char c) noexcept {
+	return c >= '0' && c <= '9';
+}
+
+bool is_blank(char c) noexcept {
+	return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/// Appends characters to a buffer that is known to have the room.
+class writer {
+public:
+	explicit writer(char *begin) noexcept : m_begin(begin), m_end(begin) {}
+
+	void put(char c) noexcept { *m_end++ = c; }
+	void put(std::string_view text) noexcept { m_end = std::copy(text.begin(), text.end(), m_end); }
+	void put_zeros(int count) noexcept { m_end = std::fill_n(m_end, count, '0'); }
+	std::size_t size() const noexcept { return static_cast<std::size_t>(m_end - m_begin); }
+
+private:
+	char *m_begin;
+	char *m_end;
+};
+
+std::string_view word_of(double value) noexcept {
+	if (std::isnan(value)) {
+		return "nan";
+	}
+	return value < 0 ? "-inf" : "inf";
+}
+
+/// The significant digits of a finite number without its trailing zeros (at least one
+/// digit stays) and the decimal exponent of the first one.
+struct significant {
+	char text[most_digits];
+	int count;
+	int exponent;
+};
+
+significant significant_digits(double value, int digits) noexcept {
+	char printed[most_digits + 8];
+	auto const end =
+	    std::to_chars(printed, printed + sizeof printed, std::fabs(value), std::chars_format::scientific, digits - 1)
+	        .ptr;
+	char const *const mark = std::find(static_cast<char const *>(printed), static_cast<char const *>(end), 'e');
+	significant result;
+	result.exponent = 0;
+	std::from_chars(mark + 2, end, result.exponent);
+	if (mark[1] == '-') {
+		result.exponent = -result.exponent;
+	}
+	result.text[0] = printed[0];
+	if (digits > 1) {
+		std::copy(static_cast<char const *>(printed) + 2, mark, result.text + 1);
+	}
+	result.count = digits;
+	while (result.count > 1 && result.text[result.count - 1] == '0') {
+		--result.count;
+	}
+	return result;
+}
+
+void put_exponent(writer &out, int exponent) noexcept {
+	char digits[8];
+	auto const end = std::to_chars(digits, digits + sizeof digits, exponent < 0 ? -exponent : exponent).ptr;
+	out.put('e');
+	out.put(exponent < 0 ? '-' : '+');
+	out.put_zeros(3 - static_cast<int>(end - digits));
+	out.put(std::string_view(digits, static_cast<std::size_t>(end - digits)));
+}
+
+/// The decimal exponent of the first digit that is not zero in digits with a point and an
+/// exponent, or the smallest integer where all digits are zero. Saturates.
+std::int64_t leading_exponent(char const *text, char const *end) noexcept {
+	constexpr std::int64_t none = std::numeric_limits<std::int64_t>::min();
+	constexpr std::int64_t bound = 100000000000000000;
+	std::int64_t place = -1;
+	std::int64_t first = none;
+	bool behind_point = false;
+	for (; text != end && (is_digit(*text) || *text == '.'); ++text) {
+		if (*text == '.') {
+			behind_point = true;
+			continue;
+		}
+		if (first == none && *text != '0') {
+			first = behind_point ? place : 0;
+		} else if (first != none && !behind_point) {
+			++first;
+		}
+		place -= behind_point ? 1 : 0;
+	}
+	if (first == none || text == end) {
+		return first;
+	}
+	++text; // the letter e
+	bool const negative = *text == '-';
+	if (*text == '-' || *text == '+') {
+		++text;
+	}
+	std::int64_t exponent = 0;
+	for (; text != end && exponent < bound; ++text) {
+		exponent = exponent * 10 + (*text - '0');
+	}
+	return negative ? first - exponent : first + exponent;
+}
+
+double parse_digits(char const *text, char const *end) noexcept {
+	double value = 0;
+	auto const parsed = std::from_chars(text, end, value, std::chars_format::general);
+	if (parsed.ec == std::errc::result_out_of_range) {
+		return leading_exponent(text, parsed.ptr) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+	}
+	return parsed.ec == std::errc() ? value : 0.0;
+}
+
+/// Whether the text goes on with a word of lower-case letters, in any case.
+bool starts_with_word(char const *text, char const *end, std::string_view word) noexcept {
+	if (static_cast<std::size_t>(end - text) < word.size()) {
+		return false;
+	}
+	return std::equal(word.begin(), word.end(), text,
+	                  [](char wanted, char c) { return c == wanted || c == static_cast<char>(wanted - 'a' + 'A'); });
+}
+
+std::size_t print(double value, int precision, char *buffer, std::size_t size, std::chars_format format) noexcept {
+	if (!std::isfinite(value)) {
+		std::string_view const word = word_of(value);
+		if (precision < 0 || word.size() > size) {
+			return 0;
+		}
+		std::copy(word.begin(), word.end(), buffer);
+		return word.size();
+	}
+	if (precision < 0 || static_cast<std::size_t>(precision) >= size) {
+		return 0;
+	}
+	auto const printed = std::to_chars(buffer, buffer + size, value, format, precision);
+	return printed.ec == std::errc() ? static_cast<std::size_t>(printed.ptr - buffer) : 0;
+}
+
+} // namespace
+
+std::size_t gcvt(double value, int digits, char *buffer) noexcept {
+	writer out(buffer);
+	if (!std::isfinite(value)) {
+		out.put(word_of(value));
+		return out.size();
+	}
+	digits = std::clamp(digits, 1, most_digits);
+	significant const number = significant_digits(value, digits);
+	std::string_view const all(number.text, static_cast<std::size_t>(number.count));
+	if (std::signbit(value)) {
+		out.put('-');
+	}
+	if (number.exponent == -1) {
+		out.put("0.");
+		out.put(all);
+	} else if (number.exponent >= 0 && number.exponent < digits) {
+		std::size_t const whole = static_cast<std::size_t>(number.exponent) + 1;
+		out.put(all.substr(0, whole));
+		out.put_zeros(static_cast<int>(whole) - number.count);
+		out.put('.');
+		out.put(all.substr(std::min(whole, all.size())));
+	} else {
+		out.put(all[0]);
+		out.put('.');
+		out.put(all.substr(1));
+		put_exponent(out, number.exponent);
+	}
+	return out.size();
+}
+
+double atof(char const *text, std::size_t length) noexcept {
+	char const *const end = text + length;
+	while (text != end && is_blank(*text)) {
+		++text;
+	}
+	bool const negative = text != end && *text == '-';
+	if (text != end && (*text == '-' || *text == '+')) {
+		++text;
+	}
+	double magnitude = 0;
+	if (starts_with_word(text, end, "inf")) {
+		magnitude = std::numeric_limits<double>::infinity();
+	} else if (starts_with_word(text, end, "nan")) {
+		magnitude = std::numeric_limits<double>::quiet_NaN();
+	} else if (text != end && (is_digit(*text) || *text == '.')) {
+		magnitude = parse_digits(text, end);
+	}
+	return negative ? -magnitude : magnitude;
+}
+
+std::size_t fixed(double value, int precision, char *buffer, std::size_t size) noexcept {
+	return print(value, precision, buffer, size, std::chars_format::fixed);
+}
+
+std::size_t scientific(double value, int precision, char *buffer, std::size_t size) noexcept {
+	return print(value, precision, buffer, size, std::chars_format::scientific);
+}
+
+} // namespace QUOR_2_9::generic::convert::detail
