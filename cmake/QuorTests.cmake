@@ -20,6 +20,11 @@ target_link_libraries(quor_test_framework PUBLIC quor_compiler GTest::gtest GTes
 target_include_directories(quor_test_framework PUBLIC "${PROJECT_SOURCE_DIR}/tests")
 target_precompile_headers(quor_test_framework PRIVATE <gtest/gtest.h> <algorithm> <map> <random> <string> <vector>)
 
+# Replaces the global operator new of the programs that link it, see its header.
+add_library(quor_allocation_counter STATIC "${PROJECT_SOURCE_DIR}/tests/support/allocation_counter.cpp")
+target_link_libraries(quor_allocation_counter PUBLIC quor_compiler)
+target_include_directories(quor_allocation_counter PUBLIC "${PROJECT_SOURCE_DIR}/tests")
+
 function(quor_add_test_program name folder)
   cmake_parse_arguments(PARSE_ARGV 2 test "" "" "FILES;LIBRARIES;LABELS")
   list(TRANSFORM test_FILES PREPEND "${PROJECT_SOURCE_DIR}/tests/${folder}/")

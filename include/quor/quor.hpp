@@ -16,6 +16,7 @@
 #include <quor/exceptions/logic_error.hpp>
 #include <quor/exceptions/runtime_error.hpp>
 #include <quor/export.hpp>
+#include <quor/generic/convert/bin_str.hpp>
 #include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
 #include <quor/i18n/message.hpp>
