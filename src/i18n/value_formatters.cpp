@@ -1,0 +1,52 @@
+#include <quor/i18n/value_formatters.hpp>
+
+#include "i18n/value_text.hpp"
+
+namespace QUOR_2_9::i18n::_private {
+namespace {
+
+template <class Value>
+strings::ustring8 text_of(bool (*append)(std::string &, Value, std::string_view), Value value,
+                          strings::ustring8 const &format) {
+	strings::ustring8 result;
+	if (!append(result, value, format)) {
+		result = detail::failure_text;
+	}
+	return result;
+}
+
+template <class Value>
+strings::ustring8 text_of(bool (*append)(std::string &, Value, std::string_view, std::string_view &), Value value,
+                          strings::ustring8 const &format, strings::ustring8 &unit) {
+	strings::ustring8 result;
+	std::string_view unit_text;
+	if (!append(result, value, format, unit_text)) {
+		result = detail::failure_text;
+	}
+	unit = unit_text;
+	return result;
+}
+
+} // namespace
+
+strings::ustring8 format_int(types::int64 value, strings::ustring8 const &format) {
+	return text_of(&detail::append_int, value, format);
+}
+
+strings::ustring8 format_double(double value, strings::ustring8 const &format) {
+	return text_of(&detail::append_double, value, format);
+}
+
+strings::ustring8 format_duration(double seconds, strings::ustring8 const &format) {
+	return text_of(&detail::append_duration, seconds, format);
+}
+
+strings::ustring8 format_memory(types::uint64 value, strings::ustring8 const &format, strings::ustring8 &unit) {
+	return text_of(&detail::append_memory, value, format, unit);
+}
+
+strings::ustring8 format_metric(types::uint32 value, strings::ustring8 const &format, strings::ustring8 &unit) {
+	return text_of(&detail::append_metric, value, format, unit);
+}
+
+} // namespace QUOR_2_9::i18n::_private
