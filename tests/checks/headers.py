@@ -3,8 +3,8 @@ behind all others, with warnings as errors and without making code.
 
 usage: headers.py COMPILER STANDARD INCLUDE-DIRECTORY HEADER-LIST [OPTION...]
 
-With the option --windows-h each header is also compiled with the system's big header
-before it and behind it.
+With the option --windows-h they are also compiled with the system's big header, which
+defines min and max as macros, before them and behind them.
 """
 
 import concurrent.futures
@@ -19,16 +19,16 @@ FLAGS = ["-fsyntax-only", "-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Ws
 def units(headers, windows_h):
     """Yields (name, text) of each translation unit."""
     for header in headers:
-        twice = f"#include <{header}>\n" * 2
-        yield header, twice
-        if windows_h:
-            yield header + " behind windows.h", f"#include <windows.h>\n{twice}"
-            yield header + " before windows.h", f"{twice}#include <windows.h>\n"
+        yield header, f"#include <{header}>\n" * 2
     umbrella = "#include <quor/quor.hpp>\n"
     everything = "".join(f"#include <{header}>\n" for header in headers)
     alias = "static_assert(sizeof(quor::types::nil_t) == 1);\n"
     yield "quor/quor.hpp before all others", umbrella + everything + alias
     yield "quor/quor.hpp behind all others", everything + umbrella + alias
+    if windows_h:
+        system = "#include <windows.h>\n"
+        yield "all headers behind windows.h", system + everything + alias.replace("quor::", "QUOR_2_9::")
+        yield "all headers before windows.h", everything + system
 
 
 def compile_unit(compiler, options, directory, number, name, text):

@@ -1,0 +1,61 @@
+# Builds a consumer project from nothing, runs it and compares its output.
+#
+#   cmake -DMODE=... -D<variable>=... -P run.cmake
+#
+# MODE is
+#   install           installs BUILD into PREFIX
+#   cmake             configures and builds SOURCE into WORK with OPTIONS, runs it
+#   pkg_config        compiles PROGRAM against the module in PREFIX, runs it
+# With NO_RUN the programs are built only: they are for another system.
+
+cmake_minimum_required(VERSION 3.23)
+
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT code EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "failed with ${code}: ${command}\n${output}")
+  endif()
+endfunction()
+
+function(compare program)
+  if(NO_RUN)
+    return()
+  endif()
+  set(ENV{LD_LIBRARY_PATH} "${PREFIX}/lib")
+  execute_process(COMMAND "${program}" RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+  file(READ "${CMAKE_CURRENT_LIST_DIR}/program/expected.txt" expected)
+  if(NOT code EQUAL 0 OR NOT output STREQUAL expected OR NOT errors STREQUAL "")
+    message(FATAL_ERROR "${program} ended with ${code}\n--- printed\n${output}--- expected\n${expected}--- errors\n${errors}")
+  endif()
+endfunction()
+
+if(MODE STREQUAL "install")
+  file(REMOVE_RECURSE "${PREFIX}")
+  run("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}")
+elseif(MODE STREQUAL "cmake")
+  file(REMOVE_RECURSE "${WORK}")
+  separate_arguments(OPTIONS UNIX_COMMAND "${OPTIONS}")
+  run("${CMAKE_COMMAND}" -G Ninja -S "${SOURCE}" -B "${WORK}" ${OPTIONS})
+  run("${CMAKE_COMMAND}" --build "${WORK}")
+  compare("${WORK}/consumer")
+  if(EXISTS "${WORK}/abi_consumer" AND NOT NO_RUN)
+    run("${WORK}/abi_consumer")
+  endif()
+elseif(MODE STREQUAL "pkg_config")
+  file(MAKE_DIRECTORY "${WORK}")
+  file(GLOB_RECURSE module "${PREFIX}/*/quor-2.9.pc")
+  get_filename_component(module_dir "${module}" DIRECTORY)
+  set(ENV{PKG_CONFIG_PATH} "${module_dir}")
+  execute_process(COMMAND "${PKG_CONFIG}" --cflags --libs quor-2.9 RESULT_VARIABLE code OUTPUT_VARIABLE flags
+    OUTPUT_STRIP_TRAILING_WHITESPACE)
+  if(NOT code EQUAL 0)
+    message(FATAL_ERROR "pkg-config does not find the module quor-2.9 in ${module_dir}")
+  endif()
+  separate_arguments(flags UNIX_COMMAND "${flags}")
+  separate_arguments(OPTIONS UNIX_COMMAND "${OPTIONS}")
+  run("${COMPILER}" -std=c++17 ${OPTIONS} "${CMAKE_CURRENT_LIST_DIR}/program/main.cpp" -o "${WORK}/consumer" ${flags})
+  compare("${WORK}/consumer")
+else()
+  message(FATAL_ERROR "no mode \"${MODE}\"")
+endif()
