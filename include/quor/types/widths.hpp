@@ -83,6 +83,7 @@ private:
 /// of it exists.
 template <class Tag>
 class absent {
+public:
 	absent() = delete;
 };
 
