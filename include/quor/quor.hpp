@@ -22,6 +22,12 @@
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
+#include <quor/strings/case.hpp>
+#include <quor/strings/native_wide.hpp>
+#include <quor/strings/replace_all.hpp>
+#include <quor/strings/split_string.hpp>
+#include <quor/strings/transcode.hpp>
+#include <quor/strings/unichar.hpp>
 #include <quor/strings/ustring.hpp>
 #include <quor/system/directory.hpp>
 #include <quor/system/file.hpp>

@@ -1,0 +1,83 @@
+#include <quor/strings/case.hpp>
+
+#include <algorithm>
+#include <cstddef>
+
+#include <quor/debug/invalid_parameter.hpp>
+
+namespace QUOR_2_9::strings {
+namespace {
+
+template <class Unit>
+constexpr Unit lower(Unit unit) noexcept {
+	return unit >= static_cast<Unit>('A') && unit <= static_cast<Unit>('Z') ? static_cast<Unit>(unit + ('a' - 'A'))
+	                                                                        : unit;
+}
+
+template <class Unit>
+constexpr Unit upper(Unit unit) noexcept {
+	return unit >= static_cast<Unit>('a') && unit <= static_cast<Unit>('z') ? static_cast<Unit>(unit - ('a' - 'A'))
+	                                                                        : unit;
+}
+
+template <class Text>
+Text lower_range(Text const &text, types::uint32 start, types::uint32 end) {
+	std::size_t const first = start;
+	std::size_t last = end == 0xFFFFFFFF ? text.size() : end;
+	if (first < last && last > text.size()) {
+		debug::invalid_parameter("string subscript out of range", "strings\\case", __LINE__);
+		last = text.size();
+	}
+	Text result(text);
+	for (std::size_t i = first; i < last; ++i) {
+		result[i] = lower(result[i]);
+	}
+	return result;
+}
+
+template <class Text, class Change>
+Text changed(Text const &text, Change change) {
+	Text result(text);
+	std::transform(result.begin(), result.end(), result.begin(), change);
+	return result;
+}
+
+} // namespace
+
+ustring8 lower_case(ustring8 const &text, types::uint32 start, types::uint32 end) {
+	return lower_range(text, start, end);
+}
+
+ustring16 lower_case(ustring16 const &text, types::uint32 start, types::uint32 end) {
+	return lower_range(text, start, end);
+}
+
+ustring32 lower_case(ustring32 const &text, types::uint32 start, types::uint32 end) {
+	return lower_range(text, start, end);
+}
+
+ustring8 to_lower(ustring8 const &text) {
+	return changed(text, lower<char>);
+}
+
+ustring16 to_lower(ustring16 const &text) {
+	return changed(text, lower<types::wide_char>);
+}
+
+ustring32 to_lower(ustring32 const &text) {
+	return changed(text, lower<types::utf32_char>);
+}
+
+ustring8 to_upper(ustring8 const &text) {
+	return changed(text, upper<char>);
+}
+
+ustring16 to_upper(ustring16 const &text) {
+	return changed(text, upper<types::wide_char>);
+}
+
+ustring32 to_upper(ustring32 const &text) {
+	return changed(text, upper<types::utf32_char>);
+}
+
+} // namespace QUOR_2_9::strings
