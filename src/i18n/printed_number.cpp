@@ -1,8 +1,6 @@
-#include <charconv>
 #include <cmath>
-#include <cstring>
-#include <system_error>
 
+#include "generic/convert/decimal_text.hpp"
 #include "i18n/value_text.hpp"
 
 namespace QUOR_2_9::i18n::detail {
@@ -11,38 +9,30 @@ printed_number printed_number::fixed(double value, int precision) noexcept {
 	printed_number result;
 	// A digit, the point and more decimals than these don't fit.
 	constexpr int most_decimals = static_cast<int>(longest_number) - 2;
-	if (!std::isfinite(value) || precision < 0 || precision > most_decimals) {
-		return result;
-	}
-	auto const printed =
-	    std::to_chars(result.m_text, result.m_text + longest_number, value, std::chars_format::fixed, precision);
-	if (printed.ec == std::errc()) {
-		result.m_size = static_cast<std::size_t>(printed.ptr - result.m_text);
+	if (std::isfinite(value) && precision <= most_decimals) {
+		result.m_size = generic::convert::detail::fixed(value, precision, result.m_text, longest_number);
 	}
 	return result;
 }
 
 printed_number printed_number::exponent(double value, int precision) noexcept {
 	printed_number result;
+	// A digit, the point and five characters of exponent stand beside the decimals.
 	constexpr int most_decimals = static_cast<int>(longest_number) - 7;
-	if (!std::isfinite(value) || precision < 0 || precision > most_decimals) {
+	if (!std::isfinite(value) || precision > most_decimals) {
 		return result;
 	}
-	auto const printed =
-	    std::to_chars(result.m_text, result.m_text + longest_number, value, std::chars_format::scientific, precision);
-	if (printed.ec != std::errc()) {
+	std::size_t size = generic::convert::detail::scientific(value, precision, result.m_text, longest_number);
+	if (size == 0) {
 		return result;
 	}
-	auto size = static_cast<std::size_t>(printed.ptr - result.m_text);
 	bool const three_digits = result.m_text[size - 4] != 'e';
 	if (three_digits) {
 		result.m_text[size - 3] = result.m_text[size - 2];
 		result.m_text[size - 2] = result.m_text[size - 1];
 		--size;
 	}
-	if (size < longest_number) {
-		result.m_size = size;
-	}
+	result.m_size = size < longest_number ? size : 0;
 	return result;
 }
 

@@ -1,7 +1,5 @@
 #include "i18n/value_text.hpp"
 
-#include <charconv>
-
 #include <quor/generic/convert/ltoa.hpp>
 
 #include "i18n/format_attributes.hpp"
