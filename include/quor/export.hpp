@@ -14,6 +14,8 @@
 
 #include <quor/version.hpp>
 
+/// @def QUOR_API
+/// Marks a class or function that lives in the shared library.
 #if defined(QUOR_DLL_EXPORT)
 #  define QUOR_API __declspec(dllexport)
 #elif defined(QUOR_DLL_IMPORT)
