@@ -39,7 +39,7 @@ struct radix_t {
 	template <class Integer>
 	static constexpr base of(Integer value) noexcept {
 		static_assert(std::is_integral_v<Integer>, "a radix is an integer");
-		constexpr unsigned int no_radix = std::numeric_limits<unsigned int>::max();
+		constexpr unsigned int no_radix = (std::numeric_limits<unsigned int>::max)();
 		if constexpr (std::is_signed_v<Integer>) {
 			if (value < 0) {
 				return static_cast<base>(no_radix);

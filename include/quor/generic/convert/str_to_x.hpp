@@ -28,11 +28,12 @@
 /// text with `-`, `exceptions::overflow_error` else; false gives the type's smallest or
 /// largest value. In the unsigned functions the range of a text with `-` is 0 alone.
 ///
-/// Two rules of the signed functions surprise. In 8 and 16 bits, a text with `-` in a
-/// radix of 2, 4, 8, 10 or 16 is beyond the range at its first digit, also "-0"; in
-/// other radices the bound may be lower than the type's (radix 7 in 8 bits). And a
-/// text that reaches the smallest value exactly may have further digits, which wrap
-/// ("-21474836480" in 32 bits is 0).
+/// Two rules of the signed functions surprise. In 8 and 16 bits, the range of a text with
+/// `-` depends on the radix: in 3, 5, 15 and 17 it is the type's; in 2, 4, 8, 10, 16 and
+/// others nothing lies within it, not even "-0"; in the rest, values beyond the type's
+/// range are taken and wrap ("-108" in radix 11 and 8 bits is 127). And in all widths,
+/// a text that has reached the smallest value exactly may go on with further digits, which
+/// wrap ("-21474836480" in 32 bits is 0).
 ///
 /// Untrusted input: safe. Thread-safety: pure functions, whatever the locale. Cost:
 /// linear in the text, no allocation but for an exception.
