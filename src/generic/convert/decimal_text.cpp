@@ -118,13 +118,21 @@ std::int64_t leading_exponent(char const *text, char const *end) noexcept {
 	return negative ? first - exponent : first + exponent;
 }
 
+bool starts_with_digits(char const *text, char const *end) noexcept {
+	if (text != end && *text == '.') {
+		++text;
+	}
+	return text != end && is_digit(*text);
+}
+
+/// Reads digits with a point and an exponent, which must be there.
 double parse_digits(char const *text, char const *end) noexcept {
 	double value = 0;
 	auto const parsed = std::from_chars(text, end, value, std::chars_format::general);
 	if (parsed.ec == std::errc::result_out_of_range) {
 		return leading_exponent(text, parsed.ptr) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 	}
-	return parsed.ec == std::errc() ? value : 0.0;
+	return value;
 }
 
 /// Whether the text goes on with a word of lower-case letters, in any case.
@@ -198,8 +206,10 @@ double atof(char const *text, std::size_t length) noexcept {
 		magnitude = std::numeric_limits<double>::infinity();
 	} else if (starts_with_word(text, end, "nan")) {
 		magnitude = std::numeric_limits<double>::quiet_NaN();
-	} else if (text != end && (is_digit(*text) || *text == '.')) {
+	} else if (starts_with_digits(text, end)) {
 		magnitude = parse_digits(text, end);
+	} else {
+		return 0.0;
 	}
 	return negative ? -magnitude : magnitude;
 }
