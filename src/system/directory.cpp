@@ -8,7 +8,7 @@
 
 #include "platform/directory_entries.hpp"
 #include "platform/file_changes.hpp"
-#include "platform/file_status.hpp"
+#include "system/examine.hpp"
 #include "system/wide_path.hpp"
 
 namespace QUOR_2_9::system {
@@ -36,12 +36,12 @@ ustring16 joined(ustring16 const &directory, types::wide_string const &name) {
 /// A directory that the walk is inside of.
 struct walk_level {
 	ustring16 path;
-	platform::file_identity identity;
+	detail::file_identity identity;
 	std::vector<types::wide_string> names;
 	std::size_t next = 0;
 };
 
-walk_level entered(ustring16 path, platform::file_identity const &identity) {
+walk_level entered(ustring16 path, detail::file_identity const &identity) {
 	auto names = platform::directory_entries(path);
 	return {std::move(path), identity, std::move(names)};
 }
@@ -49,8 +49,8 @@ walk_level entered(ustring16 path, platform::file_identity const &identity) {
 template <class Text>
 void append_files_below(ustring16 const &path, std::vector<Text> &files) {
 	std::vector<walk_level> chain;
-	auto const start = platform::status(path);
-	chain.push_back(entered(path, start ? start->identity : platform::file_identity()));
+	auto const start = detail::examine(path);
+	chain.push_back(entered(path, start ? start->identity : detail::file_identity()));
 	while (!chain.empty()) {
 		auto &level = chain.back();
 		if (level.next == level.names.size()) {
@@ -62,15 +62,15 @@ void append_files_below(ustring16 const &path, std::vector<Text> &files) {
 			continue;
 		}
 		auto full = joined(level.path, name);
-		auto const found = platform::status(full);
-		if (!found || (found->mode & platform::mode_owner_read) == 0) {
+		auto const found = detail::examine(full);
+		if (!found || !found->is_readable) {
 			continue;
 		}
-		if ((found->mode & platform::mode_regular) != 0) {
+		if (found->is_file) {
 			files.push_back(from_wide<Text>(full));
-		} else if ((found->mode & platform::mode_directory) != 0 &&
-		           std::none_of(chain.begin(), chain.end(),
-		                        [&](walk_level const &outer) { return outer.identity == found->identity; })) {
+		} else if (found->is_directory && std::none_of(chain.begin(), chain.end(), [&](walk_level const &outer) {
+			           return outer.identity == found->identity;
+		           })) {
 			chain.push_back(entered(std::move(full), found->identity));
 		}
 	}

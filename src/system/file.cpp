@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "platform/file_status.hpp"
 #include "platform/file_stream.hpp"
+#include "system/examine.hpp"
 #include "system/wide_path.hpp"
 
 namespace QUOR_2_9::system {
@@ -75,8 +75,8 @@ bool have_read_access(ustring8 const &path) {
 }
 
 bool have_read_access(ustring16 const &path) {
-	auto const found = platform::status(path);
-	return found && (found->mode & platform::mode_owner_read) != 0;
+	auto const found = detail::examine(path);
+	return found && found->is_readable;
 }
 
 bool have_read_access(ustring32 const &path) {

@@ -1,7 +1,7 @@
 #include <quor/system/io.hpp>
 
 #include "platform/file_changes.hpp"
-#include "platform/file_status.hpp"
+#include "system/examine.hpp"
 #include "system/wide_path.hpp"
 
 namespace QUOR_2_9::system::io {
@@ -12,11 +12,6 @@ using strings::ustring16;
 using strings::ustring32;
 using strings::ustring8;
 
-bool has_mode(ustring16 const &path, platform::mode_bits bit) {
-	auto const found = platform::status(path);
-	return found && (found->mode & bit) != 0;
-}
-
 } // namespace
 
 bool exists(ustring8 const &path) {
@@ -24,7 +19,7 @@ bool exists(ustring8 const &path) {
 }
 
 bool exists(ustring16 const &path) {
-	return platform::status(path).has_value();
+	return detail::examine(path).has_value();
 }
 
 bool exists(ustring32 const &path) {
@@ -36,7 +31,8 @@ bool is_directory(ustring8 const &path) {
 }
 
 bool is_directory(ustring16 const &path) {
-	return has_mode(path, platform::mode_directory);
+	auto const found = detail::examine(path);
+	return found && found->is_directory;
 }
 
 bool is_directory(ustring32 const &path) {
@@ -48,7 +44,8 @@ bool is_file(ustring8 const &path) {
 }
 
 bool is_file(ustring16 const &path) {
-	return has_mode(path, platform::mode_regular);
+	auto const found = detail::examine(path);
+	return found && found->is_file;
 }
 
 bool is_file(ustring32 const &path) {

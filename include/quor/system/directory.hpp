@@ -30,11 +30,11 @@ namespace QUOR_2_9::system {
 /// An empty path is a checked-index failure (`debug::invalid_parameter`); where the
 /// handler returns, the result is false.
 /// @since 2.9
+/// @{
 QUOR_API bool create_directory(strings::ustring8 const &path);
-/// @overload
 QUOR_API bool create_directory(strings::ustring16 const &path);
-/// @overload
 QUOR_API bool create_directory(strings::ustring32 const &path);
+/// @}
 
 /// Appends to `files` the paths of all readable regular files below a directory, depth
 /// first, in the order in which the system lists them. `files` isn't cleared.
@@ -48,11 +48,11 @@ QUOR_API bool create_directory(strings::ustring32 const &path);
 ///
 /// Cost: linear in what is found; the depth isn't paid for with the call stack.
 /// @since 2.9
+/// @{
 QUOR_API void get_directory_files(strings::ustring8 const &path, std::vector<strings::ustring8> &files);
-/// @overload
 QUOR_API void get_directory_files(strings::ustring16 const &path, std::vector<strings::ustring16> &files);
-/// @overload
 QUOR_API void get_directory_files(strings::ustring32 const &path, std::vector<strings::ustring32> &files);
+/// @}
 
 /// The paths of the entries of one directory, files, directories and all else alike, in
 /// the system's order. Each path is that of the directory as it was given, a backslash
@@ -61,11 +61,11 @@ QUOR_API void get_directory_files(strings::ustring32 const &path, std::vector<st
 /// The first entry that the system gives is dropped unseen. It is "." nearly everywhere;
 /// on a file system where it isn't (the root of a drive on Windows), an entry is missing.
 /// @since 2.9
+/// @{
 QUOR_API std::vector<strings::ustring8> list_directory(strings::ustring8 const &path);
-/// @overload
 QUOR_API std::vector<strings::ustring16> list_directory(strings::ustring16 const &path);
-/// @overload
 QUOR_API std::vector<strings::ustring32> list_directory(strings::ustring32 const &path);
+/// @}
 
 } // namespace QUOR_2_9::system
 

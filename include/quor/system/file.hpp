@@ -31,17 +31,14 @@ namespace QUOR_2_9::system {
 /// hold; then `content` keeps its old value.
 /// Untrusted input: takes memory for the file's size, sparse files included.
 /// @since 2.9
+/// @{
 QUOR_API int load_file(strings::ustring8 const &path, std::string &content);
-/// @overload
 QUOR_API int load_file(strings::ustring16 const &path, std::string &content);
-/// @overload
 QUOR_API int load_file(strings::ustring32 const &path, std::string &content);
-/// @overload
 QUOR_API int load_file(strings::ustring8 const &path, strings::ustring8 &content);
-/// @overload
 QUOR_API int load_file(strings::ustring16 const &path, strings::ustring8 &content);
-/// @overload
 QUOR_API int load_file(strings::ustring32 const &path, strings::ustring8 &content);
+/// @}
 
 /// Writes a whole file: 0 when it could be opened, 1 when not; there is no other result.
 ///
@@ -50,21 +47,21 @@ QUOR_API int load_file(strings::ustring32 const &path, strings::ustring8 &conten
 /// directory or a pipe, give 1. A write that fails afterwards, on a full disk say, isn't
 /// reported.
 /// @since 2.9
+/// @{
 QUOR_API int store_file(strings::ustring8 const &path, strings::ustring8 const &content);
-/// @overload
 QUOR_API int store_file(strings::ustring16 const &path, strings::ustring8 const &content);
-/// @overload
 QUOR_API int store_file(strings::ustring32 const &path, strings::ustring8 const &content);
+/// @}
 
 /// Whether the permission bit "the owner may read" is set, whoever asks; false where the
 /// path can't be examined. Nothing is opened, so a file of somebody else may answer true
 /// and still not load. On Windows every file has the bit.
 /// @since 2.9
+/// @{
 QUOR_API bool have_read_access(strings::ustring8 const &path);
-/// @overload
 QUOR_API bool have_read_access(strings::ustring16 const &path);
-/// @overload
 QUOR_API bool have_read_access(strings::ustring32 const &path);
+/// @}
 
 } // namespace QUOR_2_9::system
 

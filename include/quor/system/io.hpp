@@ -33,28 +33,28 @@ namespace QUOR_2_9::system::io {
 /// Whether the path leads to anything: a file, a directory, a device. A link whose
 /// target is missing doesn't.
 /// @since 2.9
+/// @{
 QUOR_API bool exists(strings::ustring8 const &path);
-/// @overload
 QUOR_API bool exists(strings::ustring16 const &path);
-/// @overload
 QUOR_API bool exists(strings::ustring32 const &path);
+/// @}
 
 /// Whether the path leads to a directory; false where it can't be examined.
 /// @since 2.9
+/// @{
 QUOR_API bool is_directory(strings::ustring8 const &path);
-/// @overload
 QUOR_API bool is_directory(strings::ustring16 const &path);
-/// @overload
 QUOR_API bool is_directory(strings::ustring32 const &path);
+/// @}
 
 /// Whether the path leads to a regular file; false for directories, pipes, sockets and
 /// devices, and where it can't be examined.
 /// @since 2.9
+/// @{
 QUOR_API bool is_file(strings::ustring8 const &path);
-/// @overload
 QUOR_API bool is_file(strings::ustring16 const &path);
-/// @overload
 QUOR_API bool is_file(strings::ustring32 const &path);
+/// @}
 
 /// Renames a file or directory: `move("new.txt", "old.txt")`. The new path comes first.
 ///
@@ -62,29 +62,29 @@ QUOR_API bool is_file(strings::ustring32 const &path);
 /// happens. The test is part of the rename itself, except on file systems that offer no
 /// exclusive rename, where another process may create a directory's new name in between.
 /// @since 2.9
+/// @{
 QUOR_API void move(strings::ustring8 const &target, strings::ustring8 const &source);
-/// @overload
 QUOR_API void move(strings::ustring16 const &target, strings::ustring16 const &source);
-/// @overload
 QUOR_API void move(strings::ustring32 const &target, strings::ustring32 const &source);
+/// @}
 
 /// Deletes a file, or the link itself where the path names one. A directory stays.
 /// Nothing is reported; ask `exists`.
 /// @since 2.9
+/// @{
 QUOR_API void remove_file(strings::ustring8 const &path);
-/// @overload
 QUOR_API void remove_file(strings::ustring16 const &path);
-/// @overload
 QUOR_API void remove_file(strings::ustring32 const &path);
+/// @}
 
 /// Deletes an empty directory. A file, and a directory with entries, stay. Nothing is
 /// reported; ask `exists`.
 /// @since 2.9
+/// @{
 QUOR_API void remove_dir(strings::ustring8 const &path);
-/// @overload
 QUOR_API void remove_dir(strings::ustring16 const &path);
-/// @overload
 QUOR_API void remove_dir(strings::ustring32 const &path);
+/// @}
 
 } // namespace QUOR_2_9::system::io
 
