@@ -2,6 +2,7 @@
 
 #include <quor/exceptions/logic_error.hpp>
 #include <quor/exceptions/runtime_error.hpp>
+#include <quor/strings/unichar.hpp>
 
 #include <cstdint>
 #include <limits>
@@ -52,15 +53,6 @@ std::int64_t unit_value(char unit) noexcept {
 template <class Unit>
 std::int64_t unit_value(Unit unit) noexcept {
 	return static_cast<std::int64_t>(unit);
-}
-
-template <class Unit>
-uint32 measured(Unit const *text) noexcept {
-	uint32 length = 0;
-	while (text[length] != Unit()) {
-		++length;
-	}
-	return length;
 }
 
 bool is_blank(std::int64_t c) noexcept {
@@ -171,7 +163,7 @@ bool read_digits(cursor<Unit> &at, uint32 radix, Result limit, Result &value) no
 /// The signed numbers. A length of 0 means that the text is measured.
 template <class Result, class Unit>
 Result strtointx(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
-	cursor<Unit> at{text, length != 0 ? length : measured(text), 0};
+	cursor<Unit> at{text, length != 0 ? length : strings::string_length(text), 0};
 	bool negative = false;
 	if (!find_digits(at, negative, radix, signed_site)) {
 		return 0;
