@@ -1,0 +1,107 @@
+"""Compiles and runs the C++ blocks of the guides, so that what they show works.
+
+A block with a main function is a program of its own. All other blocks of a file become
+functions of one program, run in their order; their asserts must hold. In front of a
+block a comment may say more:
+
+  <!-- file: NAME -->   the block is written to NAME, which the programs find beside them
+  <!-- prints -->       the block is what the program before it prints
+  <!-- not compiled --> the block is left alone
+
+usage: snippets.py COMPILER INCLUDE-DIRECTORY LIBRARY WORK-DIRECTORY FILE...
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+BLOCK = re.compile(r"(?:^<!-- (?P<note>[^>]*?) -->\n\n?)?^```(?P<language>\w*)\n(?P<text>.*?)^```$",
+                   re.MULTILINE | re.DOTALL)
+FLAGS = ["-std=c++17", "-Wall", "-Wextra", "-Wpedantic", "-Werror", "-O0"]
+HEADERS = ["cassert", "cstdint", "iostream", "stdexcept", "string", "vector"]
+
+
+class Guide:
+    """The blocks of one file, sorted by what is done with them."""
+
+    def __init__(self, path):
+        self.path = path
+        self.files = []
+        self.programs = []
+        self.pieces = []
+        text = path.read_text(encoding="utf-8")
+        for match in BLOCK.finditer(text):
+            line = text.count("\n", 0, match.start("text")) + 1
+            self.add(match["note"] or "", match["language"], match["text"], line)
+
+    def add(self, note, language, text, line):
+        if note.startswith("file: "):
+            self.files.append((note[len("file: "):], text))
+        elif note == "prints":
+            self.programs[-1][2] = text
+        elif note == "not compiled" or language != "cpp":
+            return
+        elif "int main(" in text:
+            self.programs.append([line, text, None])
+        else:
+            self.pieces.append((line, text))
+
+    def sources(self):
+        """Yields (name, source text, expected output or None)."""
+        for line, text, output in self.programs:
+            yield f"line{line}", f'#line {line} "{self.path.name}"\n{text}', output
+        if self.pieces:
+            yield "pieces", self.joined(), ""
+
+    def joined(self):
+        includes = [f"#include <{header}>" for header in HEADERS] + ["#include <quor/quor.hpp>"]
+        functions, calls = [], []
+        for line, text in self.pieces:
+            body = []
+            for row in text.splitlines():
+                if row.startswith("#include"):
+                    includes.append(row)
+                    row = ""
+                body.append(row)
+            functions.append(f'static void block_{line}() {{\n#line {line} "{self.path.name}"\n' + "\n".join(body) + "\n}")
+            calls.append(f"\tblock_{line}();")
+        return "\n".join(includes + functions + ["int main() {"] + calls + ["}", ""])
+
+
+def run(command, **options):
+    return subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True, check=False, timeout=300, **options)
+
+
+def main(arguments):
+    compiler, include, library, work, *paths = arguments
+    library = pathlib.Path(library).resolve()
+    failures = programs = 0
+    for path in map(pathlib.Path, paths):
+        guide = Guide(path)
+        folder = pathlib.Path(work) / path.stem
+        folder.mkdir(parents=True, exist_ok=True)
+        for name, text in guide.files:
+            target = folder / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            target.write_text(text, encoding="utf-8")
+        for name, text, expected in guide.sources():
+            programs += 1
+            source, program = folder / (name + ".cpp"), folder / name
+            source.write_text(text, encoding="utf-8")
+            built = run([compiler, *FLAGS, f"-I{include}", source, "-o", program, library,
+                         f"-Wl,-rpath,{library.parent}"])
+            if built.returncode != 0:
+                failures += 1
+                print(f"{path} {name} does not compile:\n{built.stdout}")
+                continue
+            done = run([program.resolve()], cwd=folder)
+            if done.returncode != 0 or (expected is not None and done.stdout != expected):
+                failures += 1
+                print(f"{path} {name} ended with {done.returncode} and printed\n{done.stdout}--- expected\n{expected}")
+    print(f"{programs} programs, {failures} failed")
+    return 1 if failures else 0
+
+
+sys.exit(main(sys.argv[1:]))
