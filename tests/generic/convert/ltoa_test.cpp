@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "reference/str_to_number_reference.hpp"
+#include "support/comma_locale.hpp"
 
 namespace {
 
@@ -169,6 +170,12 @@ TEST(ltoa, radix_above_36_writes_the_low_byte_of_the_remainder) {
 	EXPECT_EQ(lltoa_text(smallest64, 0xFFFFFFFF).front(), '-');
 	EXPECT_EQ(lltoa_text(-6, 0xFFFFFFFF), "-6");
 	EXPECT_EQ(ulltoa_text(0x100000003ULL, 0xFFFFFFFF), "14");
+}
+
+TEST(ltoa, a_locale_with_a_decimal_comma_changes_nothing) {
+	quor_test::comma_locale const locale;
+	EXPECT_EQ(ltoa_text(-1234567, 10), "-1234567");
+	EXPECT_EQ(ulltoa_text(18446744073709551615ULL, 10), "18446744073709551615");
 }
 
 TEST(ltoa, digits_agree_with_the_reference_in_every_radix) {

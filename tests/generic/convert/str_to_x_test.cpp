@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "support/comma_locale.hpp"
 #include "support/str_to_x_family.hpp"
 
 namespace {
@@ -402,6 +403,20 @@ TEST(str_to_x, wide_units_count_by_their_whole_value) {
 		types::wide_char const text[] = {unit, '5', 0};
 		EXPECT_EQ(convert::str_to_int(text, 0, 10, true), 0);
 	}
+}
+
+TEST(str_to_x, a_locale_with_a_decimal_comma_changes_nothing) {
+	quor_test::comma_locale const locale;
+	check({
+	    {"str_to_int", "1.234", 0, 10, true, gives(1)},
+	    {"str_to_int", "1,234", 0, 10, true, gives(1)},
+	    {"str_to_int", " \t-1234567", 0, 0, true, gives(-1234567)},
+	    {"str_to_int",
+	     "\xA0"
+	     "5",
+	     0, 0, true, gives(0)},
+	    {"str_to_uint64", "18446744073709551615", 20, 10, true, gives(-1)},
+	});
 }
 
 TEST(str_to_x, long_text_of_zeros_and_digits) {
