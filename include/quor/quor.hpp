@@ -10,18 +10,31 @@
 ///
 /// @since 2.9
 
+#include <quor/debug/assert_callback.hpp>
 #include <quor/debug/invalid_parameter.hpp>
 #include <quor/debug/output.hpp>
 #include <quor/exceptions/exception.hpp>
 #include <quor/exceptions/logic_error.hpp>
 #include <quor/exceptions/runtime_error.hpp>
 #include <quor/export.hpp>
+#include <quor/functor/delegate.hpp>
+#include <quor/functor/function_type_interface.hpp>
+#include <quor/functor/member_function.hpp>
+#include <quor/generic/abilities/alloc_detection_ability.hpp>
+#include <quor/generic/abilities/clone_ability.hpp>
+#include <quor/generic/abilities/create_ability.hpp>
+#include <quor/generic/abilities/id_ability.hpp>
+#include <quor/generic/abilities/reference_count_pointer_ability.hpp>
+#include <quor/generic/clone_interface.hpp>
 #include <quor/generic/convert/bin_str.hpp>
 #include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
+#include <quor/memory/pointers/counted_pointer.hpp>
+#include <quor/memory/pointers/rc_pointer.hpp>
+#include <quor/memory/pointers/shared_pointer.hpp>
 #include <quor/strings/case.hpp>
 #include <quor/strings/native_wide.hpp>
 #include <quor/strings/replace_all.hpp>
@@ -32,6 +45,7 @@
 #include <quor/system/directory.hpp>
 #include <quor/system/file.hpp>
 #include <quor/system/io.hpp>
+#include <quor/traits/function_traits.hpp>
 #include <quor/types/nil.hpp>
 #include <quor/types/radix.hpp>
 #include <quor/types/widths.hpp>
