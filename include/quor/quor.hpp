@@ -29,6 +29,7 @@
 #include <quor/generic/convert/bin_str.hpp>
 #include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
+#include <quor/i18n/catalog.hpp>
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
