@@ -19,9 +19,13 @@ enum mode_bits : unsigned {
 /// What tells one file from all others, whatever path leads to it.
 struct file_identity {
 	std::uint64_t volume = 0;
+	/// 0 where the file system doesn't tell its files apart.
 	std::uint64_t index = 0;
 
-	friend bool operator==(file_identity const &, file_identity const &) = default;
+	/// Whether both are known to be the same file.
+	bool is_same_as(file_identity const &other) const noexcept {
+		return index != 0 && index == other.index && volume == other.volume;
+	}
 };
 
 struct file_status {

@@ -69,7 +69,7 @@ void append_files_below(ustring16 const &path, std::vector<Text> &files) {
 		if (found->is_file) {
 			files.push_back(from_wide<Text>(full));
 		} else if (found->is_directory && std::none_of(chain.begin(), chain.end(), [&](walk_level const &outer) {
-			           return outer.identity == found->identity;
+			           return outer.identity.is_same_as(found->identity);
 		           })) {
 			chain.push_back(entered(std::move(full), found->identity));
 		}

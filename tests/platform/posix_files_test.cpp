@@ -98,11 +98,11 @@ TEST_F(posix_files, identity_is_that_of_the_file_and_not_of_the_path) {
 	link("to a", "a");
 	ASSERT_EQ(::link(native("a").c_str(), native("hard").c_str()), 0);
 	auto const identity = [this](std::string const &name) { return platform::status(wide(name))->identity; };
-	EXPECT_TRUE(identity("a") == identity("to a"));
-	EXPECT_TRUE(identity("a") == identity("hard"));
-	EXPECT_TRUE(identity("") == identity("."));
-	EXPECT_FALSE(identity("a") == identity("b"));
-	EXPECT_FALSE(identity("a") == identity(""));
+	EXPECT_TRUE(identity("a").is_same_as(identity("to a")));
+	EXPECT_TRUE(identity("a").is_same_as(identity("hard")));
+	EXPECT_TRUE(identity("").is_same_as(identity(".")));
+	EXPECT_FALSE(identity("a").is_same_as(identity("b")));
+	EXPECT_FALSE(identity("a").is_same_as(identity("")));
 }
 
 TEST_F(posix_files, load_file_opens_regular_files_only_and_never_waits) {

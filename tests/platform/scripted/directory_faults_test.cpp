@@ -157,6 +157,14 @@ TEST(directory_faults, get_directory_files_does_not_enter_a_directory_that_it_is
 	EXPECT_EQ(files_below("d"), (paths{"d\\sub\\g", "d\\f"}));
 }
 
+TEST(directory_faults, directories_without_identity_are_all_entered) {
+	auto &disk = fresh_disk();
+	disk.files[QUOR_W("d")] = scripted_file::listing({QUOR_W("a")}, 0);
+	disk.files[QUOR_W("d\\a")] = scripted_file::listing({QUOR_W("b")}, 0);
+	disk.files[QUOR_W("d\\a\\b")] = scripted_file::with("");
+	EXPECT_EQ(files_below("d"), paths{"d\\a\\b"});
+}
+
 TEST(directory_faults, get_directory_files_enters_one_directory_twice_from_beside_it) {
 	auto &disk = fresh_disk();
 	disk.files[QUOR_W("d")] = scripted_file::listing({QUOR_W("a"), QUOR_W("link")}, 1);
