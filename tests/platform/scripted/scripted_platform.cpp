@@ -11,6 +11,12 @@
 
 namespace quor_test {
 
+namespace {
+
+void reserve_streams();
+
+} // namespace
+
 scripted_disk &disk() {
 	static scripted_disk instance;
 	return instance;
@@ -18,6 +24,7 @@ scripted_disk &disk() {
 
 scripted_disk &fresh_disk() {
 	disk() = scripted_disk();
+	reserve_streams();
 	return disk();
 }
 
@@ -28,6 +35,7 @@ struct open_stream {
 	std::size_t at = 0;
 };
 
+// Has its room from the start, so that opening a stream takes no memory of its own.
 std::vector<open_stream> &streams() {
 	static std::vector<open_stream> instance;
 	return instance;
@@ -37,6 +45,10 @@ std::vector<open_stream> &streams() {
 scripted_file *found(wide_string const &path) {
 	auto const at = disk().files.find(path.substr(0, path.find(wide_string::value_type(0))));
 	return at != disk().files.end() ? &at->second : nullptr;
+}
+
+void reserve_streams() {
+	streams().reserve(streams().size() + 64);
 }
 
 std::intptr_t opened(wide_string const &path) {
