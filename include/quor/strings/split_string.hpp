@@ -70,6 +70,15 @@ std::vector<basic_ustring<Unit, Traits>> split_string(basic_ustring<Unit, Traits
 	return split_string(text, basic_ustring<Unit, Traits>(separator), max_splits);
 }
 
+/// The same for a standard string and a text of the library's classes as separator.
+/// @since 2.9
+template <class Unit, class Traits>
+std::vector<std::basic_string<Unit, Traits>> split_string(std::basic_string<Unit, Traits> const &text,
+                                                          basic_ustring<Unit, Traits> const &separator,
+                                                          int max_splits = 0) {
+	return split_string(text, static_cast<std::basic_string<Unit, Traits> const &>(separator), max_splits);
+}
+
 } // namespace QUOR_2_9::strings
 
 #endif

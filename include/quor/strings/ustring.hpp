@@ -71,6 +71,13 @@ basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left, std::bas
 	return left;
 }
 
+/// Joins a text and a standard string that is given up.
+template <class Unit, class Traits>
+basic_ustring<Unit, Traits> operator+(basic_ustring<Unit, Traits> left, std::basic_string<Unit, Traits> &&right) {
+	left.append(right);
+	return left;
+}
+
 /// Joins a standard string and a text of the same unit.
 template <class Unit, class Traits>
 basic_ustring<Unit, Traits> operator+(std::basic_string<Unit, Traits> left, basic_ustring<Unit, Traits> const &right) {
