@@ -25,10 +25,12 @@
 #include <quor/generic/abilities/create_ability.hpp>
 #include <quor/generic/abilities/id_ability.hpp>
 #include <quor/generic/abilities/reference_count_pointer_ability.hpp>
+#include <quor/generic/argument.hpp>
 #include <quor/generic/clone_interface.hpp>
 #include <quor/generic/convert/bin_str.hpp>
 #include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
+#include <quor/generic/varg_list.hpp>
 #include <quor/i18n/catalog.hpp>
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
@@ -49,6 +51,8 @@
 #include <quor/traits/function_traits.hpp>
 #include <quor/types/nil.hpp>
 #include <quor/types/radix.hpp>
+#include <quor/types/variant.hpp>
+#include <quor/types/variant_type.hpp>
 #include <quor/types/widths.hpp>
 #include <quor/version.hpp>
 
