@@ -1,6 +1,23 @@
 #include <quor/i18n/message.hpp>
 
+#include <algorithm>
+#include <utility>
+
+#include <quor/strings/transcode.hpp>
+
+#include "i18n/item_text.hpp"
+
 namespace QUOR_2_9::i18n {
+namespace {
+
+/// Room for the text of an argument when the result's memory is taken.
+constexpr std::size_t usual_argument = 16;
+
+bool is_argument(message_item const &item) noexcept {
+	return item.type() != message_item::type_value;
+}
+
+} // namespace
 
 message_t::message_t() = default;
 
@@ -60,6 +77,69 @@ types::uint32 message_t::count() const noexcept {
 
 types::uint32 message_t::size() const noexcept {
 	return count();
+}
+
+types::uint32 message_t::argument_count() const noexcept {
+	return static_cast<types::uint32>(std::count_if(begin(), end(), is_argument));
+}
+
+generic::varg_list message_t::arguments() const {
+	generic::varg_list result;
+	for (message_item const &item : m_items) {
+		if (is_argument(item)) {
+			// Named only inside the list, which takes one argument of a name otherwise.
+			result.push_back(generic::argument());
+			(result.end() - 1)->name(item.m_data);
+		}
+	}
+	return result;
+}
+
+bool message_t::has_valid_args(generic::varg_list const &args) const {
+	std::size_t const wanted = argument_count();
+	if (m_items.empty() || wanted > args.count()) {
+		return false;
+	}
+	detail::argument_finder const finder(args, wanted);
+	return std::all_of(begin(), end(), [&](message_item const &item) {
+		return !is_argument(item) || finder.find(item.m_data) != nullptr;
+	});
+}
+
+std::string message_t::as_string(generic::varg_list const &args) const {
+	std::size_t size = 0;
+	std::size_t arguments = 0;
+	for (message_item const &item : m_items) {
+		size += is_argument(item) ? usual_argument : item.m_data.size();
+		arguments += is_argument(item) ? 1 : 0;
+	}
+	detail::argument_finder const finder(args, arguments);
+	std::string result;
+	result.reserve(size);
+	for (message_item const &item : m_items) {
+		detail::append_item(result, item.m_type, item.m_data, finder);
+	}
+	return result;
+}
+
+strings::ustring8 message_t::as_utf8(generic::varg_list const &args) const {
+	return as_string(args);
+}
+
+strings::ustring16 message_t::as_utf16(generic::varg_list const &args) const {
+	return strings::utf8_to_utf16(as_utf8(args));
+}
+
+strings::ustring32 message_t::as_utf32(generic::varg_list const &args) const {
+	return strings::utf8_to_utf32(as_utf8(args));
+}
+
+types::wide_string message_t::as_wstring(generic::varg_list const &args) const {
+	return as_utf16(args);
+}
+
+types::wide_string message_t::as_ustring(generic::varg_list const &args) const {
+	return as_wstring(args);
 }
 
 } // namespace QUOR_2_9::i18n

@@ -1,9 +1,12 @@
 // What rendering and formatting ask of the heap.
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include <quor/generic/varg_list.hpp>
+#include <quor/i18n/message.hpp>
 #include <quor/i18n/value_formatters.hpp>
 
 #include "support/allocation_counter.hpp"
@@ -45,6 +48,65 @@ TEST(formatters, only_the_result_is_allocated) {
 	EXPECT_EQ(1u, allocations([&] { return format_duration(1e9, long_duration); }));
 	EXPECT_EQ(0u, allocations([&] { return format_memory(1ull << 40, long_memory, unit); }));
 	EXPECT_EQ(0u, allocations([&] { return format_metric(4000000000u, none, unit); }));
+}
+
+using quor::generic::varg_list;
+using quor::i18n::message_item;
+using quor::i18n::message_t;
+
+std::size_t allocations_of_rendering(message_t const &message, varg_list const &args) {
+	quor_test::allocation_counter const counter;
+	std::string const text = message.as_string(args);
+	return counter.count();
+}
+
+TEST(rendering, literal_items_cost_nothing_each) {
+	std::vector<message_item> items;
+	EXPECT_EQ(0u, allocations_of_rendering(message_t(items), varg_list()));
+	for (std::size_t count : {1u, 10u, 100u, 1000u}) {
+		items.resize(count, message_item("a text that is longer than any small string"));
+		EXPECT_EQ(1u, allocations_of_rendering(message_t(items), varg_list())) << count;
+	}
+}
+
+TEST(rendering, typed_arguments_cost_nothing_each) {
+	varg_list args;
+	args.push_back("an argument with a name that is long", 2048);
+	args.push_back("another argument with a long name", 90.5);
+	std::vector<message_item> items;
+	for (std::size_t i = 0; i != 100; ++i) {
+		items.emplace_back("Used ");
+		items.emplace_back("an argument with a name that is long", message_item::type_memory);
+		items.emplace_back("an argument with a name that is long", message_item::type_memory_unit);
+		items.emplace_back(attributes("an argument with a name that is long|base|hex|fieldsize|12"),
+		                   message_item::type_int);
+		items.emplace_back("another argument with a long name", message_item::type_double);
+		items.emplace_back("another argument with a long name", message_item::type_metric_unit);
+		items.emplace_back("an argument with a name that is long", message_item::type_metric);
+	}
+	EXPECT_EQ(1u, allocations_of_rendering(message_t(items), args));
+}
+
+TEST(rendering, doubled_messages_ask_for_twice_the_memory_at_most) {
+	auto const bytes = [](std::size_t count) {
+		varg_list args;
+		std::vector<message_item> items;
+		for (std::size_t i = 0; i != count; ++i) {
+			ustring8 const name("name " + std::to_string(i));
+			args.push_back(ustring8(), 1);
+			args.at(static_cast<quor::types::uint32>(i)).name(name);
+			items.emplace_back(name, message_item::type_string);
+			items.emplace_back("text ");
+		}
+		message_t const message(items);
+		quor_test::allocation_counter const counter;
+		EXPECT_EQ(6 * count, message.as_string(args).size());
+		EXPECT_TRUE(message.has_valid_args(args));
+		EXPECT_EQ(count, message.arguments().size());
+		return counter.bytes();
+	};
+	std::size_t const once = bytes(2048);
+	EXPECT_LE(bytes(4096), once * 22 / 10);
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include <quor/export.hpp>
+#include <quor/generic/varg_list.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/strings/ustring.hpp>
 #include <quor/types/nil.hpp>

@@ -15,11 +15,8 @@
 /// @since 2.9
 
 #include <quor/export.hpp>
+#include <quor/generic/varg_list.hpp>
 #include <quor/strings/ustring.hpp>
-
-namespace QUOR_2_9::generic {
-class varg_list;
-}
 
 namespace QUOR_2_9::i18n {
 

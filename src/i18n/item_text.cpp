@@ -1,0 +1,129 @@
+#include "i18n/item_text.hpp"
+
+#include <quor/debug/output.hpp>
+
+#include "i18n/format_attributes.hpp"
+#include "i18n/value_text.hpp"
+
+namespace QUOR_2_9::i18n::detail {
+namespace {
+
+/// What stands in the text in place of an item that can't be rendered.
+constexpr std::string_view invalid_text = "?invalid?";
+
+/// From this many comparisons on, a list of this many arguments is worth an index.
+constexpr std::size_t long_list = 16;
+constexpr std::size_t many_comparisons = 1024;
+
+/// Appends only the unit that a formatter of number and unit delivers.
+template <class Value>
+bool append_unit(std::string &out, bool (*append)(std::string &, Value, std::string_view, std::string_view &),
+                 Value value, std::string_view format) {
+	std::size_t const start = out.size();
+	std::string_view unit;
+	if (!append(out, value, format, unit)) {
+		return false;
+	}
+	out.resize(start);
+	out.append(unit);
+	return true;
+}
+
+/// Appends the formatted value; false where the formatter refuses it.
+bool append_formatted(std::string &out, message_item::type_t type, types::variant const &value,
+                      std::string_view format) {
+	std::string_view unit;
+	switch (type) {
+	case message_item::type_int:
+		return append_int(out, value.as_int64(), format);
+	case message_item::type_double:
+		return append_double(out, value.as_double(), format);
+	case message_item::type_duration:
+		return append_duration(out, value.as_double(), format);
+	case message_item::type_memory:
+		return append_memory(out, value.as_uint64(), format, unit);
+	case message_item::type_memory_unit:
+		return append_unit(out, &append_memory, value.as_uint64(), format);
+	case message_item::type_metric:
+		return append_metric(out, value.as_uint32(), format, unit);
+	case message_item::type_metric_unit:
+		return append_unit(out, &append_metric, value.as_uint32(), format);
+	default:
+		return true;
+	}
+}
+
+/// Appends an argument piece; false where it can't be rendered.
+bool append_argument(std::string &out, message_item::type_t type, std::string_view data, argument_finder const &args) {
+	std::size_t const name_size = data.find(separator);
+	generic::argument const *const argument = args.find(data.substr(0, name_size));
+	if (argument == nullptr) {
+		return false;
+	}
+	if (type == message_item::type_string) {
+		out.append(argument->value().as_string());
+		return true;
+	}
+	std::size_t const start = out.size();
+	std::string_view const format = name_size == data.npos ? std::string_view() : data.substr(name_size + 1);
+	bool const formatted = append_formatted(out, type, argument->value(), format);
+	if (!formatted || std::string_view(out).substr(start) == failure_text) {
+		out.resize(start);
+		return false;
+	}
+	return true;
+}
+
+bool append_any(std::string &out, message_item::type_t type, std::string_view data, argument_finder const &args) {
+	switch (type) {
+	case message_item::type_value:
+		out.append(data);
+		return true;
+	case message_item::type_number:
+	case message_item::type_time:
+	case message_item::type_date:
+		return false;
+	default:
+		return append_argument(out, type, data, args);
+	}
+}
+
+} // namespace
+
+argument_finder::argument_finder(generic::varg_list const &args, std::size_t lookups) : m_args(args) {
+	if (args.size() < long_list || lookups < many_comparisons / args.size()) {
+		return;
+	}
+	m_index.reserve(args.size());
+	for (generic::argument const &argument : args) {
+		m_index.emplace(argument.name(), &argument);
+	}
+}
+
+generic::argument const *argument_finder::find(std::string_view name) const {
+	if (!m_index.empty()) {
+		auto const found = m_index.find(name);
+		return found == m_index.end() ? nullptr : found->second;
+	}
+	for (generic::argument const &argument : m_args) {
+		if (argument.name() == name) {
+			return &argument;
+		}
+	}
+	return nullptr;
+}
+
+void append_item(std::string &out, message_item::type_t type, std::string_view data, argument_finder const &args) {
+	std::size_t const start = out.size();
+	if (!append_any(out, type, data, args)) {
+		out.append(invalid_text);
+	}
+	if (std::string_view(out).substr(start) == invalid_text) {
+		std::string line = "Failure -- ";
+		line.append(data);
+		debug::output(line.c_str());
+		debug::output("\n");
+	}
+}
+
+} // namespace QUOR_2_9::i18n::detail

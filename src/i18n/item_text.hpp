@@ -1,0 +1,35 @@
+#ifndef QUOR_SRC_I18N_ITEM_TEXT_HPP
+#define QUOR_SRC_I18N_ITEM_TEXT_HPP
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include <quor/generic/varg_list.hpp>
+#include <quor/i18n/message_item.hpp>
+
+namespace QUOR_2_9::i18n::detail {
+
+/// Finds arguments by name, the first of each name, as the list does it. Where a long
+/// list is asked often it builds an index, so that the whole stays linear; short lists
+/// cost no memory. The list must outlive it and stay unchanged.
+class argument_finder {
+public:
+	/// @param lookups how many times the finder will be asked, at most.
+	argument_finder(generic::varg_list const &args, std::size_t lookups);
+
+	/// The argument or null.
+	generic::argument const *find(std::string_view name) const;
+
+private:
+	generic::varg_list const &m_args;
+	std::unordered_map<std::string_view, generic::argument const *> m_index;
+};
+
+/// Appends the rendering of one item and reports to the debug channel when it reads "?invalid?".
+void append_item(std::string &out, message_item::type_t type, std::string_view data, argument_finder const &args);
+
+} // namespace QUOR_2_9::i18n::detail
+
+#endif
