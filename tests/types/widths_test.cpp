@@ -34,7 +34,8 @@ TEST(widths, units_and_numbers_have_their_widths_everywhere) {
 }
 
 TEST(widths, long_t_converts_both_ways) {
-	for (int32 const value : {0, 1, -1, 5, std::numeric_limits<int32>::min(), std::numeric_limits<int32>::max()}) {
+	for (int32 const value :
+	     {int32(0), int32(1), int32(-1), std::numeric_limits<int32>::min(), std::numeric_limits<int32>::max()}) {
 		long_t const held = value;
 		int32 const back = held;
 		EXPECT_EQ(back, value);
