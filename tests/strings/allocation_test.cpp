@@ -71,6 +71,12 @@ TEST(allocation, transcoders_allocate_their_result_once) {
 	}
 }
 
+TEST(allocation, transcoders_reserve_their_room_by_the_units_of_the_text) {
+	EXPECT_GE(utf16_to_utf8(ustring16(1000, QUOR_W('a'))).capacity(), 2000U);
+	EXPECT_GE(utf32_to_utf8(ustring32(1000, QUOR_U32('a'))).capacity(), 2000U);
+	EXPECT_GE(utf8_to_utf16(repeated<ustring8>({0xE2, 0x82, 0xAC}, 1000)).capacity(), 1500U);
+}
+
 TEST(allocation, short_texts_are_transcoded_without_the_heap) {
 	ustring8 const text("abc");
 	EXPECT_EQ(allocations([&] { utf8_to_utf16(text); }), 0U);
