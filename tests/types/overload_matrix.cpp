@@ -11,6 +11,7 @@
 #include <sstream>
 #include <string>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -355,6 +356,74 @@ void check_digits(failures &into) {
 	HOLDS((convert::ulltoa(5ULL, wide, 10), ustring16(wide) == QUOR_W("5")));
 }
 
+// What a variant is made from decides the type it holds.
+template <class Held, class Value>
+bool holds(Value const &value) {
+	return types::variant(value).type() == typeid(Held);
+}
+
+void check_variant_numbers(failures &into) {
+	HOLDS(holds<bool>(true) && holds<signed char>(static_cast<signed char>(1)));
+	HOLDS(holds<unsigned char>(static_cast<unsigned char>(1)) && holds<short>(static_cast<short>(1)));
+	HOLDS(holds<unsigned short>(static_cast<unsigned short>(1)) && holds<int>(5) && holds<unsigned int>(5U));
+	HOLDS(holds<types::long_t>(types::long_t(5)) && holds<types::ulong_t>(types::ulong_t(5)));
+	HOLDS(holds<types::int64>(5LL) && holds<types::uint64>(5ULL));
+	HOLDS(holds<float>(5.0F) && holds<double>(5.0) && holds<long double>(5.0L));
+	// The native long goes in without loss, as a held long or as a 64-bit number.
+	HOLDS(sizeof(long) == 4 ? holds<types::long_t>(5L) : holds<types::int64>(5L));
+	HOLDS(sizeof(long) == 4 ? holds<types::ulong_t>(5UL) : holds<types::uint64>(5UL));
+	HOLDS(types::variant(LONG_MIN).as_int64() == LONG_MIN && types::variant(ULONG_MAX).as_uint64() == ULONG_MAX);
+	HOLDS(holds<types::int64>(std::int64_t(1)) && holds<types::uint64>(std::uint64_t(1)));
+	HOLDS(holds<int>(std::int32_t(1)) && holds<unsigned int>(std::uint32_t(1)));
+	HOLDS(sizeof(std::size_t) == 4 || holds<types::uint64>(std::size_t(1)));
+	HOLDS(types::variant(static_cast<std::size_t>(-1)).as_uint64() == static_cast<std::size_t>(-1));
+	HOLDS(holds<int>('A') && types::variant('A').as_int() == 65);
+	HOLDS(holds<int>(QUOR_W('A')) && types::variant(QUOR_U32('A')).as_int() == 65);
+}
+
+void check_variant_texts(failures &into) {
+	HOLDS(holds<ustring8>("x") && holds<ustring16>(QUOR_W("x")) && holds<ustring32>(QUOR_U32("x")));
+	HOLDS(holds<std::string>(std::string("x")) && holds<wide_string>(wide_string(QUOR_W("x"))));
+	HOLDS(holds<ustring8>(ustring8("x")) && holds<ustring16>(ustring16(QUOR_W("x"))));
+	HOLDS(holds<ustring32>(ustring32(QUOR_U32("x"))) && holds<types::nil_t>(types::nil));
+	char text[] = "x";
+	char *const pointer = text;
+	HOLDS(holds<ustring8>(pointer) && types::variant(pointer).as_utf8() == "x");
+	types::variant value;
+	HOLDS((value = 5, value.type() == typeid(int)));
+	HOLDS((value = "x", value.type() == typeid(ustring8)));
+	HOLDS((value = types::ulong_t(5), value.type() == typeid(types::ulong_t)));
+	HOLDS((value = types::nil, value == types::nil));
+}
+static_assert(!std::is_constructible_v<types::variant, void *> && !std::is_constructible_v<types::variant, int *>);
+static_assert(!std::is_constructible_v<types::variant, std::string *> &&
+              !std::is_constructible_v<types::variant, void (*)()> &&
+              !std::is_constructible_v<types::variant, int std::pair<int, int>::*>);
+static_assert(same<decltype(types::variant().as_long()), types::int32> &&
+              same<decltype(types::variant().as_ulong()), types::uint32> &&
+              same<decltype(types::variant().as_int64()), types::int64> &&
+              same<decltype(types::variant().as_uint64()), types::uint64> &&
+              same<decltype(types::variant().as_wstring()), wide_string>);
+
+// A list is asked by index and by name; no literal is both.
+void check_arguments(failures &into) {
+	quor::generic::varg_list list(quor::generic::argument("name", 5), "text", 7L);
+	quor::generic::varg_list const &fixed = list;
+	HOLDS(list.size() == 3 && list["name"].value().as_int() == 5);
+	HOLDS(list[0].name() == "name" && list[0U].name() == "name" && list[0L].name() == "name");
+	HOLDS(list[0LL].name() == "name" && list[std::size_t(0)].name() == "name");
+	HOLDS(list[types::long_t(0)].name() == "name" && list[types::ulong_t(0)].name() == "name");
+	HOLDS(fixed[0].name() == "name" && fixed["name"].value().as_int() == 5);
+	HOLDS(fixed[std::string("name")].value().as_int() == 5 && fixed[ustring8("name")].value().as_int() == 5);
+	HOLDS(list.at(0).name() == "name" && fixed.at("name").value().as_int() == 5);
+	HOLDS(list[1].value().type() == typeid(ustring8) && list[2].value().as_int64() == 7);
+	HOLDS((list.erase(0), list.size() == 2));
+	HOLDS((list.erase("name"), list.size() == 2));
+	HOLDS((list.erase(list.begin()), list.size() == 1));
+	HOLDS(list.push_back("name", "value") && list.push_back(ustring8("other"), std::size_t(1)));
+	HOLDS(list.push_back(5) && list.push_back("value") && list.push_back(QUOR_W("value")) && list.size() == 6);
+}
+
 void check_streams(failures &into) {
 	std::ostringstream out;
 	out << types::long_t(-5) << ' ' << types::ulong_t(5) << ' ' << ustring8("text");
@@ -375,6 +444,9 @@ std::vector<std::string> overload_matrix_failures() {
 	check_sums(into);
 	check_text_to_number(into);
 	check_digits(into);
+	check_variant_numbers(into);
+	check_variant_texts(into);
+	check_arguments(into);
 	check_streams(into);
 	return into.texts();
 }
