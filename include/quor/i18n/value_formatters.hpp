@@ -27,7 +27,8 @@
 ///
 /// The one failure is the text "-0", with an empty unit. Nothing is thrown but
 /// `std::bad_alloc`. All output is ASCII, exact ties round to even, and nothing depends
-/// on a locale. Untrusted input: safe; no attribute makes a text longer than 64 KiB.
+/// on a locale. Untrusted input: safe; a text has at most 65,535 zeros and 96 other
+/// characters, whatever the attributes.
 /// Thread-safety: pure functions. Cost: linear in the attributes and the result, the
 /// result is the only allocation.
 ///
@@ -57,6 +58,10 @@ namespace QUOR_2_9::i18n::_private {
 /// a short field can lose the sign (-9 is "0x7" in 3 characters). Beyond 64 bits the
 /// complement wraps away and the digits carry a sign: -(2^52) is "0x-10000000000000".
 ///
+/// Groups stay on in another base ("spaced_dec", then "hex"): the digits are grouped, those of
+/// a negative number behind a `-`, and a field counts digits and blanks alone, so that
+/// 0xfffff in 6 characters is "0xff fff".
+///
 /// Note: the smallest number is "-O" in decimal, with the letter, see
 /// `generic::convert::lltoa`. Digits and sign of more than 63 characters fail.
 /// @since 2.9
@@ -72,7 +77,8 @@ QUOR_API strings::ustring8 format_int(types::int64 value, strings::ustring8 cons
 ///   fails, and so does more than 63.
 ///
 /// Without a field size a text of more than 63 characters fails, with one an exponent
-/// form of more than 63 fails. Infinities and NaN fail.
+/// form of more than 63 fails, its exponent counted with three digits. Infinities and
+/// NaN fail.
 ///
 /// Note: the exponent keeps the last two of its three digits: 1e100 is "1.00e+00" in 8
 /// characters. A negative number that rounds to "-0" with precision 0 reads like a failure.

@@ -13,27 +13,28 @@
 /// `+`, a prefix if `radix` is 0, digits. The first unit that is no digit ends the
 /// number without complaint; a text without a digit gives 0.
 ///
-/// Length. Counts units. 0 makes the signed functions measure the text up to its zero
-/// unit. The unsigned ones measure nothing: with 0 they read the first unit alone
-/// (`str_to_uint32("123", 0, 10, true)` is 1). A zero unit ends the scan always.
+/// Length. Counts units; the text is never null. 0 makes the signed functions measure
+/// the text up to its zero unit. The unsigned ones measure nothing: with 0 they read the
+/// first unit alone (`str_to_uint32("123", 0, 10, true)` is 1). A zero unit ends the
+/// scan always.
 ///
 /// Radix. An enumerator of `types::radix_t::base` or a plain integer. 0 looks at the
 /// prefix: `0x` is 16, `0b` is 2, `0` and more is 8, anything else 10; a backslash
 /// counts as the `0` of a prefix ("\\x1F" is 31). 2 to 36 reads digits 0 to 9, A to Z
 /// and a to z and knows no prefix ("0x1F" in radix 16 is 0). Any other value, a
-/// negative one too, throws `exceptions::invalid_argument_value`, unless the text has
-/// ended behind its blanks or its sign.
+/// negative one too, throws `exceptions::invalid_argument_value`, also for an empty text,
+/// unless the text has ended behind a blank or its sign.
 ///
 /// Range. Beyond it, `throw_on_range` true throws `exceptions::underflow_error` for a
 /// text with `-`, `exceptions::overflow_error` else; false gives the type's smallest or
 /// largest value. In the unsigned functions the range of a text with `-` is 0 alone.
 ///
 /// Two rules of the signed functions surprise. In 8 and 16 bits, the range of a text with
-/// `-` depends on the radix: in 3, 5, 15 and 17 it is the type's; in 2, 4, 8, 10, 16 and
-/// others nothing lies within it, not even "-0"; in the rest, values beyond the type's
-/// range are taken and wrap ("-108" in radix 11 and 8 bits is 127). And in all widths,
-/// a text that has reached the smallest value exactly may go on with further digits, which
-/// wrap ("-21474836480" in 32 bits is 0).
+/// `-` depends on the radix: in 3, 5, 15 and 17 (in 8 bits in 7, 9, 13, 21 and 35 too) it is
+/// the type's; in 2, 4, 6, 8, 10, 16 and others nothing lies within it, not even "-0";
+/// in the rest, values beyond the type's range are taken and wrap ("-108" in radix
+/// 11 and 8 bits is 127). And in all widths, a text that has reached the smallest value
+/// exactly may go on with further digits, which wrap ("-21474836480" in 32 bits is 0).
 ///
 /// Untrusted input: safe. Thread-safety: pure functions, whatever the locale. Cost:
 /// linear in the text, no allocation but for an exception.
