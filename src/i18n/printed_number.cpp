@@ -7,9 +7,7 @@ namespace QUOR_2_9::i18n::detail {
 
 printed_number printed_number::fixed(double value, int precision) noexcept {
 	printed_number result;
-	// A digit, the point and more decimals than these don't fit.
-	constexpr int most_decimals = static_cast<int>(longest_number) - 2;
-	if (std::isfinite(value) && precision <= most_decimals) {
+	if (std::isfinite(value)) {
 		result.m_size = generic::convert::detail::fixed(value, precision, result.m_text, longest_number);
 	}
 	return result;
@@ -17,12 +15,9 @@ printed_number printed_number::fixed(double value, int precision) noexcept {
 
 printed_number printed_number::exponent(double value, int precision) noexcept {
 	printed_number result;
-	// A digit, the point and five characters of exponent stand beside the decimals.
-	constexpr int most_decimals = static_cast<int>(longest_number) - 7;
-	if (!std::isfinite(value) || precision > most_decimals) {
-		return result;
-	}
-	std::size_t size = generic::convert::detail::scientific(value, precision, result.m_text, longest_number);
+	std::size_t size = std::isfinite(value)
+	                       ? generic::convert::detail::scientific(value, precision, result.m_text, longest_number)
+	                       : 0;
 	if (size == 0) {
 		return result;
 	}
