@@ -1,8 +1,7 @@
-#include <clocale>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
-#include <locale>
 #include <random>
 #include <string>
 #include <tuple>
@@ -13,6 +12,7 @@
 #include <quor/i18n/value_formatters.hpp>
 
 #include "reference/value_formatters.hpp"
+#include "support/comma_locale.hpp"
 
 namespace {
 
@@ -159,6 +159,14 @@ TEST(format_int, numeric_attributes_are_read_like_the_start_of_a_text) {
 	    {77, "fieldsize||base|hex", "0x004d"},
 	    {77, "fieldsize|99999999999999999999", "77"},
 	    {77, "fieldsize|-99999999999999999999", "-0"},
+	    // Beyond `int` and beyond 64 bits; cut to 32 bits these would be 1, 1, 5 and 5.
+	    {77, "fieldsize|4294967297", "77"},
+	    {77, "fieldsize|18446744073709551617", "77"},
+	    {77, "fieldsize|-4294967291", "-0"},
+	    {77, "fieldsize|-18446744073709551611", "-0"},
+	    {77, "fieldsize|2147483648", "77"},
+	    {77, "fieldsize|-2147483649", "-0"},
+	    {77, "fieldsize|00000000000000000000000001", "-0"},
 	    {-7, "base|hex|fieldsize|-2147483648", "-0"},
 	    {77,
 	     "fieldsize|\xC2\xA0"
@@ -242,6 +250,7 @@ TEST(format_double, precisions_and_fields_give_the_told_texts) {
 	    {3.14159, "precision|2000000000", "-0"},
 	    {3.14159, "precision|2000000000|fieldsize|20", "-0"},
 	    {3.14159, "precision|99999999999999", "-0"},
+	    {3.14159, "precision|4294967297", "-0"},
 	    {1.0, "precision|5|precision|1", "1.0"},
 	    {1.0, "base|hex", "-0"},
 	    {1.0, "precision", "-0"},
@@ -478,21 +487,14 @@ TEST(unit_formatters, unit_that_is_the_format_itself_gives_the_same) {
 }
 
 TEST(formatters, locale_of_the_program_changes_nothing) {
-	struct comma : std::numpunct<char> {
-		char do_decimal_point() const override { return ','; }
-		char do_thousands_sep() const override { return '.'; }
-		std::string do_grouping() const override { return "\3"; }
-	};
-	std::locale const before = std::locale::global(std::locale(std::locale::classic(), new comma));
-	std::string const c_locale = std::setlocale(LC_ALL, nullptr);
-	std::setlocale(LC_ALL, "de_DE.UTF-8");
+	quor_test::comma_locale const locale;
 	ustring8 unit;
 	EXPECT_EQ("1234.50", format_double(1234.5, ""));
 	EXPECT_EQ("1234567", format_int(1234567, ""));
 	EXPECT_EQ("1.500", format_metric(1500, "", unit));
 	EXPECT_EQ("1.50 sec", format_duration(1.5, ""));
-	std::setlocale(LC_ALL, c_locale.c_str());
-	std::locale::global(before);
+	EXPECT_EQ("1.23e+08", format_double(123456789.0, attributes("fieldsize|8")));
+	EXPECT_EQ("1", format_memory(1024, "", unit));
 }
 
 // Attribute strings made of right and nearly right pieces.

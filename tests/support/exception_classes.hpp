@@ -57,6 +57,16 @@ void check_construction() {
 	}
 }
 
+// A zero character inside the message is kept, and ends the text only for who reads it so.
+template <class Class>
+void check_message_with_zero() {
+	std::string const message("a\0b", 3);
+	Class const error(message, 1, "", "");
+	EXPECT_EQ(std::string(error.message(), 4), message + '\0');
+	Class const copy(error);
+	EXPECT_EQ(std::string(copy.message(), 4), message + '\0');
+}
+
 template <class Class>
 void check_copies() {
 	Class error("a text that is far too long for a short string's own place", 12, "file", "function");
@@ -108,6 +118,7 @@ void check_catching() {
 template <class Class, class Branch, class Other>
 void check_class() {
 	check_construction<Class>();
+	check_message_with_zero<Class>();
 	check_copies<Class>();
 	check_catching<Class, Branch, Other>();
 }

@@ -201,8 +201,21 @@ TEST(bin_str, default_float_wants_eight_bytes) {
 	}
 }
 
+TEST(bin_str, literals_are_pointers_and_text_classes_are_strings) {
+	// Only the form for pointers decodes four bytes to a float.
+	EXPECT_EQ(convert::bin_str_to_float("\0\0\x80\x3F"), 1.0F);
+	char mutable_bytes[] = "\0\0\x80\x3F";
+	EXPECT_EQ(convert::bin_str_to_float(mutable_bytes), 1.0F);
+	QUOR_2_9::strings::ustring8 const text("\0\0\x80\x3F", 4);
+	EXPECT_EQ(convert::bin_str_to_float(text), 0.0F);
+	EXPECT_EQ(convert::little_endian::bin_str_to_float(text), 1.0F);
+	EXPECT_EQ(convert::big_endian::bin_str_to_uint16("\1\2"), 0x0102);
+}
+
 struct stopped {
 	std::string what;
+	std::string file;
+	unsigned int line;
 };
 
 class stop_handler {
@@ -217,8 +230,8 @@ private:
 	debug::invalid_parameter_handler m_previous;
 };
 
-void throw_stopped(char const *what, char const *, unsigned int) {
-	throw stopped{what};
+void throw_stopped(char const *what, char const *file, unsigned int line) {
+	throw stopped{what, file, line};
 }
 
 TEST(bin_str, default_double_stops_from_four_to_six_bytes) {
@@ -233,6 +246,8 @@ TEST(bin_str, default_double_stops_from_four_to_six_bytes) {
 		} catch (stopped const &stop) {
 			stops = true;
 			EXPECT_EQ(stop.what, "string subscript out of range");
+			EXPECT_EQ(stop.file, "generic\\convert\\bin_str");
+			EXPECT_GT(stop.line, 0U);
 		}
 		EXPECT_EQ(stops, size >= 4 && size <= 6);
 		if (!stops) {
