@@ -28,6 +28,24 @@ private:
 	std::string_view m_rest;
 };
 
+/// Hands each pair of an attribute string to `read(key, value)`, from left to right. False
+/// where the number of elements is odd, before any pair, and where `read` answers false.
+template <class Read>
+bool read_attributes(std::string_view format, Read read) {
+	format_attributes pairs(format);
+	if (!pairs.is_even()) {
+		return false;
+	}
+	std::string_view key;
+	std::string_view value;
+	while (pairs.next(key, value)) {
+		if (!read(key, value)) {
+			return false;
+		}
+	}
+	return true;
+}
+
 /// Whether the token is a prefix of the keyword; the empty one is.
 constexpr bool abbreviates(std::string_view token, std::string_view keyword) noexcept {
 	return keyword.substr(0, token.size()) == token;

@@ -61,54 +61,38 @@ struct unit_attributes {
 };
 
 bool read_memory_attributes(std::string_view format, unit_attributes &attributes) noexcept {
-	format_attributes pairs(format);
-	if (!pairs.is_even()) {
-		return false;
-	}
-	std::string_view key;
-	std::string_view value;
-	while (pairs.next(key, value)) {
-		if (abbreviates(key, "target_unit")) {
-			attributes.has_target = true;
-			// The word "any" is looked for in the key, where only the empty one abbreviates it.
-			if (abbreviates(key, "any")) {
-				attributes.target = 0;
-			} else if (!read_memory_unit(value, attributes.target)) {
-				return false;
-			}
-		} else if (!abbreviates(key, "base_unit") || !read_memory_unit(value, attributes.base)) {
-			return false;
+	return read_attributes(format, [&](std::string_view key, std::string_view value) {
+		if (!abbreviates(key, "target_unit")) {
+			return abbreviates(key, "base_unit") && read_memory_unit(value, attributes.base);
 		}
-	}
-	return true;
+		attributes.has_target = true;
+		// The word "any" is looked for in the key, where only the empty one abbreviates it.
+		if (abbreviates(key, "any")) {
+			attributes.target = 0;
+			return true;
+		}
+		return read_memory_unit(value, attributes.target);
+	});
 }
 
 bool read_metric_attributes(std::string_view format, unit_attributes &attributes) noexcept {
-	format_attributes pairs(format);
-	if (!pairs.is_even()) {
-		return false;
-	}
-	std::string_view key;
-	std::string_view value;
-	while (pairs.next(key, value)) {
-		bool known = true;
+	return read_attributes(format, [&](std::string_view key, std::string_view value) {
 		if (abbreviates(key, "base_unit")) {
-			known = read_metric_unit(value, attributes.base);
-		} else if (abbreviates(key, "target_unit")) {
-			known = read_metric_unit(value, attributes.target);
+			return read_metric_unit(value, attributes.base);
+		}
+		if (abbreviates(key, "target_unit")) {
 			attributes.has_target = true;
-		} else if (abbreviates(key, "short_form")) {
-			known = read_flag(value, attributes.short_form);
-		} else if (abbreviates(key, "precision")) {
+			return read_metric_unit(value, attributes.target);
+		}
+		if (abbreviates(key, "short_form")) {
+			return read_flag(value, attributes.short_form);
+		}
+		if (abbreviates(key, "precision")) {
 			attributes.precision = leading_int(value);
-		} else {
-			known = false;
+			return true;
 		}
-		if (!known) {
-			return false;
-		}
-	}
-	return true;
+		return false;
+	});
 }
 
 } // namespace

@@ -42,24 +42,16 @@ bool read_base(std::string_view token, int_attributes &attributes) noexcept {
 }
 
 bool read_int_attributes(std::string_view format, int_attributes &attributes) noexcept {
-	format_attributes pairs(format);
-	if (!pairs.is_even()) {
-		return false;
-	}
-	std::string_view key;
-	std::string_view value;
-	while (pairs.next(key, value)) {
+	return read_attributes(format, [&](std::string_view key, std::string_view value) {
 		if (abbreviates(key, "base")) {
-			if (!read_base(value, attributes)) {
-				return false;
-			}
-		} else if (abbreviates(key, "fieldsize")) {
-			attributes.fieldsize = leading_int(value);
-		} else {
-			return false;
+			return read_base(value, attributes);
 		}
-	}
-	return true;
+		if (abbreviates(key, "fieldsize")) {
+			attributes.fieldsize = leading_int(value);
+			return true;
+		}
+		return false;
+	});
 }
 
 /// The number whose digits stand for a negative value in a base other than ten. The
@@ -164,22 +156,18 @@ bool append_int(std::string &out, int64 value, std::string_view format) {
 bool append_double(std::string &out, double value, std::string_view format) {
 	int precision = 2;
 	int fieldsize = 0;
-	format_attributes pairs(format);
-	if (!pairs.is_even()) {
-		return false;
-	}
-	std::string_view key;
-	std::string_view text;
-	while (pairs.next(key, text)) {
+	bool const known = read_attributes(format, [&](std::string_view key, std::string_view text) {
 		if (abbreviates(key, "precision")) {
 			precision = leading_int(text);
-		} else if (abbreviates(key, "fieldsize")) {
-			fieldsize = leading_int(text);
-		} else {
-			return false;
+			return true;
 		}
-	}
-	if (fieldsize < 0 || fieldsize > static_cast<int>(longest_number)) {
+		if (abbreviates(key, "fieldsize")) {
+			fieldsize = leading_int(text);
+			return true;
+		}
+		return false;
+	});
+	if (!known || fieldsize < 0 || fieldsize > static_cast<int>(longest_number)) {
 		return false;
 	}
 	auto const width = static_cast<std::size_t>(fieldsize);
@@ -203,21 +191,15 @@ bool append_double(std::string &out, double value, std::string_view format) {
 bool append_duration(std::string &out, double seconds, std::string_view format) {
 	std::string_view precision = "2";
 	bool short_form = false;
-	format_attributes pairs(format);
-	if (!pairs.is_even()) {
-		return false;
-	}
-	std::string_view key;
-	std::string_view value;
-	while (pairs.next(key, value)) {
+	bool const known = read_attributes(format, [&](std::string_view key, std::string_view value) {
 		if (abbreviates(key, "precision")) {
 			precision = value;
-		} else if (!abbreviates(key, "short_form") || !read_flag(value, short_form)) {
-			return false;
+			return true;
 		}
-	}
+		return abbreviates(key, "short_form") && read_flag(value, short_form);
+	});
 	// Whole seconds have to fit 32 bits; NaN fails here too.
-	if (!(seconds > -2147483649.0 && seconds < 2147483648.0)) {
+	if (!known || !(seconds > -2147483649.0 && seconds < 2147483648.0)) {
 		return false;
 	}
 	auto const days = static_cast<types::int32>(seconds) / 86400;
