@@ -154,9 +154,13 @@ private:
 
 	static void release(T *object) noexcept {
 		if (object != nullptr && object->dec_pointer_ref() == 0 && object->is_created_dynamic()) {
-			delete object;
+			destroy(object);
 		}
 	}
+
+	/// Not inlined, so that compilers don't suspect a deletion of objects that they see on
+	/// the stack; the flag prevents it.
+	[[gnu::noinline]] static void destroy(T *object) noexcept { delete object; }
 
 	T *m_object = nullptr;
 };
