@@ -1,6 +1,4 @@
 """Compares the names that the shared library exports with the list kept in the tree.
-Inline functions and implicit instantiations are left out: whether the compiler emits
-them is its own business.
 
 usage: exported_symbols.py NM LIBRARY LIST [--update]
 """
@@ -16,8 +14,8 @@ def exported(nm, library):
     names = set()
     for line in output.splitlines():
         kind, name = line[17:18], line[19:]
-        # W: weak functions, that is inline ones. A: the version node itself.
-        if kind not in "WA":
+        # A: the version node itself.
+        if kind != "A":
             names.add(name)
     return sorted(names)
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include <quor/quor.hpp>
 
@@ -29,6 +30,39 @@ std::size_t slot_of(Member member) {
 	return static_cast<std::size_t>(words[0] - 1) / sizeof(void *);
 }
 
+// Slots 0 and 1 are the two forms of the destructor.
+void check_variant_slots() {
+	using holder = quor::types::variant_type;
+	std::size_t slot = 2;
+	auto const next = [&slot](char const *what, auto member) { check(what, slot++, slot_of(member)); };
+	next("slot of variant_type::is_set", &holder::is_set);
+	next("slot of variant_type::type", &holder::type);
+	next("slot of variant_type::clone", &holder::clone);
+	next("slot of variant_type::ostream", &holder::ostream);
+	next("slot of variant_type::as_int", &holder::as_int);
+	next("slot of variant_type::as_short", &holder::as_short);
+	next("slot of variant_type::as_long", &holder::as_long);
+	next("slot of variant_type::as_int8", &holder::as_int8);
+	next("slot of variant_type::as_int16", &holder::as_int16);
+	next("slot of variant_type::as_int32", &holder::as_int32);
+	next("slot of variant_type::as_int64", &holder::as_int64);
+	next("slot of variant_type::as_uint8", &holder::as_uint8);
+	next("slot of variant_type::as_uint16", &holder::as_uint16);
+	next("slot of variant_type::as_uint32", &holder::as_uint32);
+	next("slot of variant_type::as_uint64", &holder::as_uint64);
+	next("slot of variant_type::as_bool", &holder::as_bool);
+	next("slot of variant_type::as_string", &holder::as_string);
+	next("slot of variant_type::as_wstring", &holder::as_wstring);
+	next("slot of variant_type::as_ustring", &holder::as_ustring);
+	next("slot of variant_type::as_utf8", &holder::as_utf8);
+	next("slot of variant_type::as_utf16", &holder::as_utf16);
+	next("slot of variant_type::as_utf32", &holder::as_utf32);
+	next("slot of variant_type::as_float", &holder::as_float);
+	next("slot of variant_type::as_double", &holder::as_double);
+	next("slot of variant_type::as_long_double", &holder::as_long_double);
+	check("slot of generic::clone_interface::clone", 2, slot_of(&quor::generic::clone_interface::clone));
+}
+
 } // namespace
 
 int main() {
@@ -37,5 +71,12 @@ int main() {
 	check("size of strings::ustring16", sizeof(std::string), sizeof(quor::strings::ustring16));
 	check("size of strings::ustring32", sizeof(std::string), sizeof(quor::strings::ustring32));
 	check("size of types::long_t", 4, sizeof(quor::types::long_t));
+	check("size of types::variant", sizeof(void *), sizeof(quor::types::variant));
+	check("size of generic::varg_list", sizeof(std::vector<int>), sizeof(quor::generic::varg_list));
+	check("size of generic::argument", sizeof(std::string) + sizeof(void *), sizeof(quor::generic::argument));
+	check("size of i18n::message_t", sizeof(std::vector<int>) + 3 * sizeof(std::string), sizeof(quor::i18n::message_t));
+	check("size of exceptions::overflow_error", 8 + 520 + sizeof(std::string),
+	      sizeof(quor::exceptions::overflow_error));
+	check_variant_slots();
 	return failures;
 }

@@ -1,7 +1,8 @@
-// The program that every consumer project builds: a value from an inline class, a call
-// into the library, an exception that crosses the library's border.
+// The program that every consumer project builds: a value from an inline class, calls
+// into the library, an exception that crosses its border, a message that is rendered.
 
 #include <iostream>
+#include <vector>
 
 #include <quor/quor.hpp>
 
@@ -14,5 +15,13 @@ int main() {
 	} catch (quor::exceptions::overflow_error const &error) {
 		std::cout << "overflow_error in " << error.error_state().function() << '\n';
 	}
+	quor::generic::varg_list arguments;
+	arguments.push_back("bytes", 2048);
+	quor::i18n::message_t const message(std::vector<quor::i18n::message_item>{
+	    quor::i18n::message_item("used "),
+	    quor::i18n::message_item("bytes", quor::i18n::message_item::type_memory),
+	    quor::i18n::message_item("bytes", quor::i18n::message_item::type_memory_unit),
+	});
+	std::cout << message.as_string(arguments) << '\n';
 	return 0;
 }
