@@ -38,6 +38,8 @@
 #include <quor/memory/pointers/counted_pointer.hpp>
 #include <quor/memory/pointers/rc_pointer.hpp>
 #include <quor/memory/pointers/shared_pointer.hpp>
+#include <quor/parser/xml_parser.hpp>
+#include <quor/parser/xml_token_stream.hpp>
 #include <quor/strings/case.hpp>
 #include <quor/strings/native_wide.hpp>
 #include <quor/strings/replace_all.hpp>

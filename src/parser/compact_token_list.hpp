@@ -1,0 +1,75 @@
+#ifndef QUOR_SRC_PARSER_COMPACT_TOKEN_LIST_HPP
+#define QUOR_SRC_PARSER_COMPACT_TOKEN_LIST_HPP
+
+// The tokens of a document in one block of memory, for readers that only go forward.
+// The same tokens as `xml_token_stream` makes, at about one byte a token beside its
+// text, where a list node takes 64: large catalog files are read through this.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <quor/parser/xml_parser.hpp>
+#include <quor/parser/xml_token_stream.hpp>
+#include <quor/strings/ustring.hpp>
+
+namespace QUOR_2_9::parser {
+
+class compact_token_list {
+public:
+	using token_type = xml_token_stream::token::token_type;
+
+	// A token where it stands in the list. The value is valid as long as the list is.
+	class const_iterator {
+	public:
+		const_iterator(char const *at, char const *end) : m_next(at), m_end(end) { ++*this; }
+
+		token_type type() const noexcept { return m_type; }
+		std::string_view value() const noexcept { return m_value; }
+		const_iterator const *operator->() const noexcept { return this; }
+
+		const_iterator &operator++() noexcept;
+
+		bool operator==(const_iterator const &other) const noexcept { return m_at == other.m_at; }
+		bool operator!=(const_iterator const &other) const noexcept { return m_at != other.m_at; }
+
+	private:
+		char const *m_at = nullptr;
+		char const *m_next;
+		char const *m_end;
+		token_type m_type = xml_token_stream::token::token_element_start;
+		std::string_view m_value;
+	};
+
+	// Makes the list from a text; any other list is gone. Where the result is a fault the
+	// list holds the tokens up to it.
+	xml_parser::parse_error parse(strings::ustring8 const &text);
+
+	const_iterator begin() const { return const_iterator(m_bytes.data(), m_bytes.data() + m_bytes.size()); }
+	const_iterator end() const {
+		char const *const last = m_bytes.data() + m_bytes.size();
+		return const_iterator(last, last);
+	}
+
+	std::size_t bytes() const noexcept { return m_bytes.size(); }
+
+private:
+	void on_attribute(strings::ustring8 const &name, strings::ustring8 const &value);
+	void on_element_start(strings::ustring8 const &name);
+	void on_character(strings::ustring8 const &text);
+	void on_comment(strings::ustring8 const &text);
+	void on_element_end(strings::ustring8 const &name);
+	void on_space(strings::ustring8 const &text);
+	void close_attributes();
+	void append(token_type type, std::string_view value);
+
+	// Each token: its type in the low three bits and the size of its value above them,
+	// seven bits a byte, the lowest first and the high bit set in all but the last; then
+	// the value.
+	std::string m_bytes;
+	bool m_attributes_closed = true;
+};
+
+} // namespace QUOR_2_9::parser
+
+#endif

@@ -1,0 +1,49 @@
+#ifndef QUOR_SRC_PARSER_XML_BYTES_HPP
+#define QUOR_SRC_PARSER_XML_BYTES_HPP
+
+// The byte classes of the XML dialect, by value and in no locale, and the two ways in
+// which its readers fail.
+
+#include <quor/parser/xml_parser.hpp>
+#include <quor/strings/ustring.hpp>
+#include <quor/types/widths.hpp>
+
+namespace QUOR_2_9::parser::detail {
+
+constexpr bool is_digit(char c) {
+	return c >= '0' && c <= '9';
+}
+
+constexpr bool is_letter(char c) {
+	return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+constexpr bool is_hex_digit(char c) {
+	return is_digit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+}
+
+constexpr bool is_name_character(char c) {
+	return is_letter(c) || is_digit(c) || c == '_';
+}
+
+constexpr bool is_space(char c) {
+	return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+[[noreturn]] inline void fail(xml_parser::parse_error::error_code code, types::uint32 line,
+                              strings::ustring8 const &text) {
+	throw xml_parser::parse_error(code, line, text);
+}
+
+// A character that can't stand here, or the end of the input in its place.
+[[noreturn]] inline void fail_at(xml_parser::const_iterator const &it, xml_parser::const_iterator const &end,
+                                 types::uint32 line) {
+	if (it == end) {
+		fail(xml_parser::parse_error::error_eof, line, strings::ustring8());
+	}
+	fail(xml_parser::parse_error::error_unexpected_char, line, strings::ustring8(1, *it));
+}
+
+} // namespace QUOR_2_9::parser::detail
+
+#endif

@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <quor/parser/xml_parser.hpp>
+
+#include "support/event_log.hpp"
+
+namespace {
+
+namespace quor = QUOR_2_9;
+using quor::parser::xml_parser;
+using quor::strings::ustring8;
+using parse_error = xml_parser::parse_error;
+using reference::xml_event;
+
+TEST(xml_parser, parse_failed_object_keeps_its_open_elements) {
+	xml_parser parser;
+	quor_test::event_log log;
+	log.bind(parser);
+	EXPECT_EQ(parser.parse("<?xml?><a><b>").code(), 1);
+	// Nothing closes "a" and "b", so even a whole document ends inside them,
+	EXPECT_EQ(parser.parse("<?xml?><c/>").code(), 1);
+	// a second root isn't one,
+	EXPECT_EQ(parser.parse("<?xml?><c/><d/>").code(), 1);
+	// and the next end tag must be theirs.
+	parse_error const wrong = parser.parse("<?xml?></a>");
+	EXPECT_EQ(wrong.code(), 2);
+	EXPECT_EQ(wrong.text(), "a");
+	EXPECT_EQ(parser.parse("<?xml?></b></a>").code(), 0);
+	EXPECT_EQ(parser.parse("<?xml?><c/><d/>").code(), 10);
+}
+
+TEST(xml_parser, parse_failed_object_keeps_its_attribute_names) {
+	xml_parser parser;
+	EXPECT_EQ(parser.parse("<?xml?><a b='1' c").code(), 1);
+	EXPECT_EQ(parser.parse("<?xml?></a b='1'>").code(), 9);
+	EXPECT_EQ(parser.parse("<?xml?></a d='1'>").code(), 0);
+}
+
+TEST(xml_parser, parse_without_delegates_reports_nothing_and_succeeds) {
+	xml_parser const parser;
+	EXPECT_EQ(parser.parse("<?xml?><!-- c --> <a b='1'>t  </a>").code(), 0);
+	EXPECT_EQ(parser.parse("<?xml?><a").code(), 1);
+}
+
+TEST(xml_parser, parse_with_one_delegate_passes_over_the_others) {
+	xml_parser parser;
+	quor_test::event_log log;
+	xml_parser all;
+	log.bind(all);
+	parser.on_comment() = all.on_comment();
+	EXPECT_EQ(parser.parse("<?xml?><!--c--> <a b='1'>t  </a>").code(), 0);
+	EXPECT_EQ(log.events, (std::vector<xml_event>{{"comment", "c", ""}}));
+}
+
+TEST(xml_parser, copy_reports_to_the_same_objects_and_has_its_own_state) {
+	xml_parser parser;
+	quor_test::event_log log;
+	log.bind(parser);
+	EXPECT_EQ(parser.parse("<?xml?><a>").code(), 1);
+	xml_parser copy(parser);
+	EXPECT_EQ(copy.parse("<?xml?></a>").code(), 0);
+	EXPECT_EQ(parser.parse("<?xml?></b>").code(), 2);
+	EXPECT_EQ(log.events, (std::vector<xml_event>{{"start", "a", ""}, {"end", "a", ""}}));
+
+	xml_parser assigned;
+	EXPECT_EQ(assigned.parse("<?xml?><x>").code(), 1);
+	assigned = parser;
+	EXPECT_EQ(assigned.parse("<?xml?></a>").code(), 0);
+	EXPECT_EQ(log.events.size(), 3U);
+	xml_parser const &self = assigned;
+	assigned = self;
+	EXPECT_EQ(assigned.parse("<?xml?><a/>").code(), 0);
+	EXPECT_EQ(log.events.size(), 5U);
+}
+
+TEST(xml_parser, do_parse_advances_to_the_end) {
+	std::string const text = "<?xml?><a/>";
+	xml_parser parser;
+	auto begin = text.begin();
+	EXPECT_EQ(parser.do_parse(begin, text.end()).code(), 0);
+	EXPECT_TRUE(begin == text.end());
+}
+
+// An inner routine on a text of its own: what it gives, and how far it went.
+template <class Routine>
+std::string inner(std::string const &text, Routine routine) {
+	xml_parser const parser;
+	auto it = text.begin();
+	try {
+		ustring8 const result = (parser.*routine)(it, text.end());
+		return result + "|" + std::to_string(it - text.begin());
+	} catch (parse_error const &error) {
+		return "!" + std::to_string(error.code()) + error.text();
+	}
+}
+
+TEST(xml_parser, inner_routines_stop_where_told) {
+	EXPECT_EQ(inner("ab_9-c", &xml_parser::parse_name), "ab_9|3");
+	EXPECT_EQ(inner("a", &xml_parser::parse_name), "a|0");
+	EXPECT_EQ(inner("9", &xml_parser::parse_name), "!59");
+	EXPECT_EQ(inner("", &xml_parser::parse_name), "!1");
+	EXPECT_EQ(inner("'a\"b' c", &xml_parser::parse_attrib_value), "a\"b|4");
+	EXPECT_EQ(inner("'ab", &xml_parser::parse_attrib_value), "ab|3");
+	EXPECT_EQ(inner("ab", &xml_parser::parse_attrib_value), "!6");
+	EXPECT_EQ(inner("", &xml_parser::parse_attrib_value), "!1");
+	EXPECT_EQ(inner("&amp;x", &xml_parser::parse_character), "&|4");
+	EXPECT_EQ(inner("&#x41;x", &xml_parser::parse_character), "A|5");
+	EXPECT_EQ(inner("x", &xml_parser::parse_character), "!5x");
+	EXPECT_EQ(inner("", &xml_parser::parse_character), "!1");
+	EXPECT_EQ(inner(" \t\r\nx", &xml_parser::parse_whitespace), " \t\r\n|4");
+	EXPECT_EQ(inner("x", &xml_parser::parse_whitespace), "|0");
+	EXPECT_EQ(inner("", &xml_parser::parse_whitespace), "|0");
+}
+
+TEST(xml_parser, is_white_space_is_four_bytes) {
+	xml_parser const parser;
+	for (int value = 0; value != 256; ++value) {
+		std::string const text(1, static_cast<char>(value));
+		bool const expected = value == 0x20 || value == 0x09 || value == 0x0D || value == 0x0A;
+		EXPECT_EQ(parser.is_white_space(text.begin()), expected) << value;
+	}
+}
+
+TEST(xml_parser, parse_name_takes_ascii_letters_digits_and_underscore) {
+	for (int value = 0; value != 256; ++value) {
+		char const c = static_cast<char>(value);
+		bool const letter = (value >= 'A' && value <= 'Z') || (value >= 'a' && value <= 'z');
+		bool const inside = letter || (value >= '0' && value <= '9') || value == '_';
+		SCOPED_TRACE(value);
+		EXPECT_EQ(inner(std::string(1, c) + "-", &xml_parser::parse_name),
+		          letter ? std::string(1, c) + "|0" : "!5" + std::string(1, c));
+		EXPECT_EQ(inner("a" + std::string(1, c) + "-", &xml_parser::parse_name),
+		          inside ? "a" + std::string(1, c) + "|1" : "a|0");
+	}
+}
+
+struct thrower {
+	void text(ustring8 const &) { throw 7; }
+	void attribute(ustring8 const &, ustring8 const &) { throw 8; }
+};
+
+TEST(xml_parser, parse_passes_exceptions_of_delegates_through) {
+	using member = quor::functor::member_function_t<thrower, quor_test::text_function>;
+	using attribute_member = quor::functor::member_function_t<thrower, quor_test::attribute_function>;
+	thrower target;
+	std::string const text = "<?xml?><!--c--> <a b='1'>t</a>";
+	for (auto slot : {&xml_parser::on_element_start, &xml_parser::on_element_end, &xml_parser::on_character,
+	                  &xml_parser::on_space, &xml_parser::on_comment}) {
+		xml_parser parser;
+		(parser.*slot)() = member(&target, &thrower::text);
+		EXPECT_THROW(parser.parse("<?xml?><!--c--> <a b='1'>t </a>"
+		                          "<!--d--> "),
+		             int);
+	}
+	xml_parser parser;
+	parser.on_attribute() = attribute_member(&target, &thrower::attribute);
+	EXPECT_THROW(parser.parse(ustring8(text)), int);
+	// What was open when the exception passed stays open.
+	EXPECT_EQ(parser.parse("<?xml?></a>").code(), 0);
+}
+
+TEST(xml_parser, parse_error_holds_its_fields) {
+	parse_error const none;
+	EXPECT_EQ(none.code(), parse_error::error_none);
+	EXPECT_EQ(none.line(), 0U);
+	EXPECT_EQ(none.text(), "");
+	parse_error const some(parse_error::error_mismatched_end, 7, "a");
+	parse_error const copy = some;
+	EXPECT_EQ(copy.code(), 2);
+	EXPECT_EQ(copy.line(), 7U);
+	EXPECT_EQ(copy.text(), "a");
+	EXPECT_EQ(static_cast<parse_error::error_code>(99), 99);
+}
+
+} // namespace
