@@ -35,6 +35,7 @@
 #include <quor/i18n/message.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
+#include <quor/i18n/xmc_file_loader.hpp>
 #include <quor/memory/pointers/counted_pointer.hpp>
 #include <quor/memory/pointers/rc_pointer.hpp>
 #include <quor/memory/pointers/shared_pointer.hpp>

@@ -163,12 +163,17 @@ private:
 
 	std::string argument() {
 		std::string const tag = one_of({"arg", "argument"});
-		std::string text = "<" + tag;
-		text += one_of({"", " fieldsize=\"8\""});
-		text += one_of({" name=\"n\"", " name=\"who\"", ""});
-		text += one_of({"", " type=\"int\"", " type=\"VALUE\"", " type=\"mem\"", " type=\"what\""});
-		text += one_of({"", " base=\"hex\"", " prec=\"\""});
-		return text + (rarely() ? ">" + one_of({"x", "<b/>", "<!--arg-->", "<arg/>"}) + "</" + tag + ">" : "/>");
+		std::string text("<");
+		text.append(tag);
+		text.append(one_of({"", " fieldsize=\"8\""}));
+		text.append(one_of({" name=\"n\"", " name=\"who\"", ""}));
+		text.append(one_of({"", " type=\"int\"", " type=\"VALUE\"", " type=\"mem\"", " type=\"what\""}));
+		text.append(one_of({"", " base=\"hex\"", " prec=\"\""}));
+		if (!rarely()) {
+			return text.append("/>");
+		}
+		text.append(">").append(one_of({"x", "<b/>", "<!--arg-->", "<arg/>"}));
+		return text.append("</").append(tag).append(">");
 	}
 
 	std::mt19937 m_random;

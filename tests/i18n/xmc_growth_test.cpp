@@ -1,0 +1,148 @@
+// Loading grows with the file: twice the file, about twice the allocations.
+
+#include <gtest/gtest.h>
+
+#include <quor/i18n/xmc_file_loader.hpp>
+
+#include "support/allocation_counter.hpp"
+
+namespace {
+
+namespace quor = QUOR_2_9;
+using quor::strings::ustring8;
+using loader_t = quor::i18n::_private::xmc_file_loader;
+
+std::string repeated(std::string const &piece, std::size_t count) {
+	std::string text;
+	for (std::size_t i = 0; i != count; ++i) {
+		text += piece;
+	}
+	return text;
+}
+
+std::string catalog(std::string const &content) {
+	return "<?xml?><xmc version='1.0'><catalog name='c' lang='.'>" + content + "</catalog></xmc>";
+}
+
+std::string message(std::string const &content) {
+	return catalog("<msg name='m'>" + content + "</msg>");
+}
+
+struct shape {
+	char const *name;
+	std::string (*make)(std::size_t count);
+};
+
+shape const shapes[] = {
+    {"messages",
+     [](std::size_t n) {
+	     std::string text;
+	     for (std::size_t i = 0; i != n; ++i) {
+		     text += "<msg name='m" + std::to_string(i) + "'>text <arg name='a' type='int'/></msg>\n";
+	     }
+	     return catalog(text);
+     }},
+    {"messages of one name", [](std::size_t n) { return catalog(repeated("<msg name='m'>text</msg>", n)); }},
+    {"arguments", [](std::size_t n) { return message(repeated("<arg name='a'/> ", n)); }},
+    {"arguments cut by attributes",
+     [](std::size_t n) {
+	     std::string text = "<arg";
+	     for (std::size_t i = 0; i != n; ++i) {
+		     text += " a" + std::to_string(i) + "='1'";
+	     }
+	     return message(text + "/>");
+     }},
+    {"breaks", [](std::size_t n) { return message(repeated("<br/>", n)); }},
+    {"text pieces", [](std::size_t n) { return message(repeated("x  ", n)); }},
+    {"comments", [](std::size_t n) { return message(repeated("<!--c-->", n)); }},
+    {"a long text", [](std::size_t n) { return message(repeated("text", n)); }},
+    {"a skipped catalog",
+     [](std::size_t n) {
+	     return "<?xml?><xmc version='1.0'><catalog lang='fr'>" + repeated("<a/>", n) + "</catalog></xmc>";
+     }},
+    {"catalogs",
+     [](std::size_t n) {
+	     return "<?xml?><xmc version='1.0'>" + repeated("<catalog name='c' lang='.'/>", n) + "</xmc>";
+     }},
+    {"an element that isn't known", [](std::size_t n) { return message(repeated("<b>", n) + repeated("</b>", n)); }},
+    {"a name in a fault",
+     [](std::size_t n) { return message(std::string("<").append(repeated("name", n)).append("/>")); }},
+};
+
+TEST(xmc_growth, parse_string_and_combine_data_are_linear) {
+	constexpr std::size_t small = 4096;
+	for (shape const &one : shapes) {
+		SCOPED_TRACE(one.name);
+		std::size_t counts[2];
+		std::size_t bytes[2];
+		for (std::size_t round : {0U, 1U}) {
+			ustring8 const text(one.make(small << round));
+			quor_test::allocation_counter const counter;
+			loader_t loader;
+			loader.handle_language("de");
+			loader.parse_string(text, "f");
+			loader_t::catalog_map catalogs;
+			loader.combine_data(catalogs);
+			counts[round] = counter.count();
+			bytes[round] = counter.bytes();
+		}
+		EXPECT_LE(counts[1], counts[0] * 22 / 10 + 20);
+		EXPECT_LE(bytes[1], bytes[0] * 22 / 10 + 4096);
+	}
+}
+
+TEST(xmc_growth, parse_string_of_short_tags_takes_memory_in_proportion) {
+	ustring8 const text("<?xml?><xmc version='1.0'><catalog lang='fr'>" + repeated("<a/>", 250000) +
+	                    "</catalog></xmc>");
+	quor_test::allocation_counter const counter;
+	loader_t loader;
+	loader.handle_language("");
+	EXPECT_EQ(loader.parse_string(text, "f").type(), 0);
+	EXPECT_LE(counter.bytes(), text.size() * 6);
+}
+
+TEST(xmc_growth, handle_language_long_ids_take_linear_memory) {
+	for (std::string const &piece : {std::string("a_"), std::string("_"), std::string("en.")}) {
+		ustring8 const id(repeated(piece, 500000));
+		quor_test::allocation_counter const counter;
+		loader_t loader;
+		loader.handle_language(id);
+		EXPECT_LE(counter.bytes(), id.size() * 4);
+		ustring8 const beginning(id, 0, id.size() / 2 - 1);
+		EXPECT_NE(loader.get_locale_weight(beginning), 0U);
+	}
+}
+
+TEST(xmc_growth, get_locale_weight_allocates_nothing) {
+	loader_t loader;
+	loader.handle_language("de_AT_some_rather_long_variant");
+	ustring8 const id("de-AT.some-rather.long");
+	quor_test::allocation_counter const counter;
+	EXPECT_EQ(loader.get_locale_weight(id), 7U);
+	EXPECT_EQ(counter.count(), 0U);
+}
+
+// Whatever fails for want of memory, the loader can be used and destroyed after it.
+TEST(xmc_growth, parse_string_that_runs_out_of_memory_leaves_a_usable_loader) {
+	ustring8 const text(message("some text that is long enough <arg name='a' type='int'/> for a block of memory"));
+	ustring8 const file("a file name that is long enough for a block of memory");
+	std::size_t index = 0;
+	for (bool failed = true; failed; ++index) {
+		loader_t loader;
+		loader.handle_language("");
+		{
+			quor_test::allocation_failure const failure(index);
+			try {
+				loader.parse_string(text, file);
+			} catch (std::bad_alloc const &) {
+			}
+			failed = failure.happened();
+		}
+		EXPECT_EQ(loader.parse_string(text, file).type(), 0);
+		loader_t::catalog_map catalogs;
+		EXPECT_EQ(loader.combine_data(catalogs), 1U);
+	}
+	EXPECT_GT(index, 10U);
+}
+
+} // namespace
