@@ -158,6 +158,21 @@ TEST(message_item, missing_argument_gives_the_marker_for_every_type) {
 	}
 }
 
+TEST(message_item, type_beyond_the_table_formats_to_nothing) {
+	debug_capture const capture;
+	message_item const item("n", static_cast<message_item::type_t>(99));
+	EXPECT_EQ("", item.as_string(one_argument("n", 5)));
+	EXPECT_TRUE(capture.calls().empty());
+	EXPECT_EQ("?invalid?", item.as_string(varg_list()));
+	EXPECT_EQ(2u, capture.calls().size());
+}
+
+TEST(message_item, exception_of_the_debug_handler_passes_through) {
+	auto const before = quor::debug::set_output_handler([](char const *text) { throw std::string(text); });
+	EXPECT_THROW(message_item("n", message_item::type_int).as_string(varg_list()), std::string);
+	quor::debug::set_output_handler(before);
+}
+
 TEST(message_item, text_that_reads_like_the_marker_is_reported_too) {
 	debug_capture const capture;
 	EXPECT_EQ("?invalid?", message_item("?invalid?").as_string(varg_list()));
