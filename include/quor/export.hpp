@@ -10,6 +10,9 @@
 ///
 ///     class QUOR_API widget { ... };
 ///
+/// `QUOR_API_TYPE` marks a class that is inline as a whole, so that there is nothing to
+/// export, but is an argument of exported templates, which are only as visible as it is.
+///
 /// @since 2.9
 
 #include <quor/version.hpp>
@@ -24,6 +27,12 @@
 #  define QUOR_API __attribute__((visibility("default")))
 #else
 #  define QUOR_API
+#endif
+
+#if defined(__GNUC__) && !defined(_WIN32)
+#  define QUOR_API_TYPE __attribute__((visibility("default")))
+#else
+#  define QUOR_API_TYPE
 #endif
 
 #endif

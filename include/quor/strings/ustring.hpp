@@ -21,6 +21,7 @@
 #include <string_view>
 #include <utility>
 
+#include <quor/export.hpp>
 #include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::strings {
@@ -33,7 +34,7 @@ namespace QUOR_2_9::strings {
 /// Thread-safety: as the standard string, many readers or one writer.
 /// @since 2.9
 template <class Unit, class Traits = std::char_traits<Unit>>
-class basic_ustring : public std::basic_string<Unit, Traits> {
+class QUOR_API_TYPE basic_ustring : public std::basic_string<Unit, Traits> {
 public:
 	/// The standard string that this class derives from.
 	using base_type = std::basic_string<Unit, Traits>;

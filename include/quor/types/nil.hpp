@@ -11,13 +11,13 @@
 ///
 /// @since 2.9
 
-#include <quor/version.hpp>
+#include <quor/export.hpp>
 
 namespace QUOR_2_9::types {
 
 /// The type of the empty marker; it holds nothing and all its objects are alike.
 /// @since 2.9
-class nil_t {
+class QUOR_API_TYPE nil_t {
 public:
 	/// The empty marker.
 	constexpr nil_t() noexcept = default;

@@ -21,6 +21,7 @@
 #include <string>
 #include <type_traits>
 
+#include <quor/export.hpp>
 #include <quor/version.hpp>
 
 #if !defined(__cplusplus) || __cplusplus < 201703L
@@ -66,7 +67,7 @@ namespace detail {
 /// A 32-bit number that is a type of its own beside `Number`, so that a holder of
 /// it can be told from a holder of `Number`. Converts implicitly both ways.
 template <class Number>
-class distinct_number {
+class QUOR_API_TYPE distinct_number {
 public:
 	/// The number 0.
 	constexpr distinct_number() noexcept = default;
