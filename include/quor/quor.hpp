@@ -32,7 +32,9 @@
 #include <quor/generic/convert/str_to_x.hpp>
 #include <quor/generic/varg_list.hpp>
 #include <quor/i18n/catalog.hpp>
+#include <quor/i18n/load_result.hpp>
 #include <quor/i18n/message.hpp>
+#include <quor/i18n/message_catalogs.hpp>
 #include <quor/i18n/message_item.hpp>
 #include <quor/i18n/value_formatters.hpp>
 #include <quor/i18n/xmc_file_loader.hpp>
