@@ -29,6 +29,8 @@
 #  define QUOR_API
 #endif
 
+/// @def QUOR_API_TYPE
+/// Marks an inline class that is an argument of exported templates.
 #if defined(__GNUC__) && !defined(_WIN32)
 #  define QUOR_API_TYPE __attribute__((visibility("default")))
 #else

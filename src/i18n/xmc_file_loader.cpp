@@ -207,7 +207,8 @@ types::uint32 xmc_file_loader::combine_data(catalog_map &target) {
 	for (auto const &[name, loaded] : m_catalogs) {
 		auto entry = target.find(name);
 		if (entry == target.end()) {
-			entry = target.emplace(name, catalog_map::mapped_type(generic::abilities::create_dynamic<catalog_t>())).first;
+			entry =
+			    target.emplace(name, catalog_map::mapped_type(generic::abilities::create_dynamic<catalog_t>())).first;
 		}
 		if (!entry->second) {
 			throw static_cast<char const *>("unreferanced object");
