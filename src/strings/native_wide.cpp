@@ -1,6 +1,7 @@
 #include <quor/strings/native_wide.hpp>
 
 #include <cstddef>
+#include <type_traits>
 
 #include <quor/types/widths.hpp>
 
@@ -10,6 +11,10 @@ namespace QUOR_2_9::strings {
 namespace {
 
 constexpr bool native_is_wide = sizeof(wchar_t) == sizeof(types::wide_char);
+
+constexpr types::uint32 value_of(wchar_t unit) noexcept {
+	return static_cast<std::make_unsigned_t<wchar_t>>(unit);
+}
 
 } // namespace
 
@@ -21,7 +26,7 @@ ustring16 from_native_wide(std::wstring const &text) {
 	}
 	std::size_t needed = text.size();
 	for (wchar_t const unit : text) {
-		auto const code_point = static_cast<types::uint32>(unit);
+		types::uint32 const code_point = value_of(unit);
 		if (code_point >= 0x110000) {
 			return ustring16{static_cast<types::wide_char>('-'), static_cast<types::wide_char>('1')};
 		}
@@ -29,7 +34,7 @@ ustring16 from_native_wide(std::wstring const &text) {
 	}
 	result.reserve(needed);
 	for (wchar_t const unit : text) {
-		auto const code_point = static_cast<types::uint32>(unit);
+		types::uint32 const code_point = value_of(unit);
 		if (code_point < 0x10000) {
 			result.push_back(static_cast<types::wide_char>(code_point));
 		} else {

@@ -16,7 +16,18 @@ namespace {
 
 namespace reference = quor_reference;
 
-using namespace quor::strings;
+using quor::strings::from_native_wide;
+using quor::strings::to_native_wide;
+using quor::strings::unichar;
+using quor::strings::ustring16;
+using quor::strings::ustring32;
+using quor::strings::ustring8;
+using quor::strings::utf16_to_utf32;
+using quor::strings::utf16_to_utf8;
+using quor::strings::utf32_to_utf16;
+using quor::strings::utf32_to_utf8;
+using quor::strings::utf8_to_utf16;
+using quor::strings::utf8_to_utf32;
 using quor::types::uint32;
 using reference::number;
 using reference::numbers;

@@ -15,7 +15,25 @@
 
 namespace {
 
-using namespace quor::strings;
+using quor::strings::character_index;
+using quor::strings::from_native_wide;
+using quor::strings::lower_case;
+using quor::strings::replace_all;
+using quor::strings::split_string;
+using quor::strings::string_length;
+using quor::strings::to_lower;
+using quor::strings::to_native_wide;
+using quor::strings::to_upper;
+using quor::strings::unichar;
+using quor::strings::ustring16;
+using quor::strings::ustring32;
+using quor::strings::ustring8;
+using quor::strings::utf16_to_utf32;
+using quor::strings::utf16_to_utf8;
+using quor::strings::utf32_to_utf16;
+using quor::strings::utf32_to_utf8;
+using quor::strings::utf8_to_utf16;
+using quor::strings::utf8_to_utf32;
 using quor_reference::numbers;
 using quor_reference::text_of;
 using quor_test::allocation_counter;

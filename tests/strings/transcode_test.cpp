@@ -15,7 +15,15 @@ namespace {
 
 namespace reference = quor_reference;
 
-using namespace quor::strings;
+using quor::strings::ustring16;
+using quor::strings::ustring32;
+using quor::strings::ustring8;
+using quor::strings::utf16_to_utf32;
+using quor::strings::utf16_to_utf8;
+using quor::strings::utf32_to_utf16;
+using quor::strings::utf32_to_utf8;
+using quor::strings::utf8_to_utf16;
+using quor::strings::utf8_to_utf32;
 using quor::types::uint32;
 using quor_test::shown;
 using reference::numbers;

@@ -163,7 +163,8 @@ static_assert(types::long_t(2) + types::long_t(3) == 5 && types::long_t(7) / 2 =
 
 template <class Text>
 using length_of = decltype(strings::string_length(std::declval<Text>()));
-static_assert(same<length_of<char const (&)[4]>, types::uint32> && same<length_of<ustring8>, types::uint32>);
+static_assert(same<length_of<char const (&)[4]>, types::uint32>);
+static_assert(same<length_of<ustring8>, types::uint32>);
 static_assert(same<length_of<types::wide_char const (&)[4]>, types::uint32>);
 static_assert(same<length_of<types::utf32_char const (&)[4]>, types::uint32>);
 
@@ -201,9 +202,12 @@ static_assert(same<mixed_pieces_of<ustring32, types::utf32_string>, std::vector<
 
 template <class Text>
 using lowered = decltype(strings::lower_case(std::declval<Text>(), 0, 1));
-static_assert(same<lowered<char const *>, ustring8> && same<lowered<std::string>, ustring8>);
-static_assert(same<lowered<types::wide_char const *>, ustring16> && same<lowered<wide_string>, ustring16>);
-static_assert(same<lowered<types::utf32_char const *>, ustring32> && same<lowered<ustring32>, ustring32>);
+static_assert(same<lowered<char const *>, ustring8>);
+static_assert(same<lowered<std::string>, ustring8>);
+static_assert(same<lowered<types::wide_char const *>, ustring16>);
+static_assert(same<lowered<wide_string>, ustring16>);
+static_assert(same<lowered<types::utf32_char const *>, ustring32>);
+static_assert(same<lowered<ustring32>, ustring32>);
 
 template <class Left, class Right>
 using sum = decltype(std::declval<Left>() + std::declval<Right>());
