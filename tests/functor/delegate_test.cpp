@@ -127,7 +127,7 @@ TEST(delegate, failed_clone_leaves_it_empty) {
 	EXPECT_THROW(delegate = quor_test::unclonable(), std::bad_alloc);
 	EXPECT_TRUE(delegate.empty());
 	EXPECT_EQ(log.living(), 0) << "the old callable has gone";
-	EXPECT_THROW(number_delegate(quor_test::unclonable()), std::bad_alloc);
+	EXPECT_THROW(number_delegate{quor_test::unclonable()}, std::bad_alloc);
 }
 
 TEST(delegate, callable_may_replace_itself_while_it_runs) {
