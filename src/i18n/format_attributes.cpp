@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "support/ascii.hpp"
+
 namespace QUOR_2_9::i18n::detail {
 
 bool format_attributes::is_even() const noexcept {
@@ -31,7 +33,7 @@ std::string_view format_attributes::next_element() noexcept {
 
 int leading_int(std::string_view text) noexcept {
 	std::size_t i = 0;
-	while (i < text.size() && (text[i] == ' ' || (text[i] >= '\t' && text[i] <= '\r'))) {
+	while (i < text.size() && support::is_blank(text[i])) {
 		++i;
 	}
 	bool const negative = i < text.size() && text[i] == '-';
@@ -41,7 +43,7 @@ int leading_int(std::string_view text) noexcept {
 	// The number is kept below zero, where there is room for the smallest one.
 	constexpr long long lowest = std::numeric_limits<int>::min();
 	long long value = 0;
-	for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i) {
+	for (; i < text.size() && support::is_digit(text[i]); ++i) {
 		value = std::max(value * 10 - (text[i] - '0'), lowest);
 	}
 	return static_cast<int>(negative ? value : std::min<long long>(-value, std::numeric_limits<int>::max()));

@@ -8,22 +8,12 @@
 #include <quor/strings/ustring.hpp>
 #include <quor/types/widths.hpp>
 
+#include "support/ascii.hpp"
+
 namespace QUOR_2_9::parser::detail {
 
-constexpr bool is_digit(char c) {
-	return c >= '0' && c <= '9';
-}
-
-constexpr bool is_letter(char c) {
-	return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-constexpr bool is_hex_digit(char c) {
-	return is_digit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
-}
-
 constexpr bool is_name_character(char c) {
-	return is_letter(c) || is_digit(c) || c == '_';
+	return support::is_letter(c) || support::is_digit(c) || c == '_';
 }
 
 constexpr bool is_space(char c) {

@@ -8,6 +8,7 @@
 #include <quor/types/radix.hpp>
 
 #include "parser/xml_bytes.hpp"
+#include "support/ascii.hpp"
 
 namespace QUOR_2_9::parser::detail {
 
@@ -24,7 +25,7 @@ char read_number(iterator &it, iterator const &end, types::uint32 line) {
 		++it;
 	}
 	iterator const first = it;
-	it = std::find_if_not(first, end, hex ? is_hex_digit : is_digit);
+	it = std::find_if_not(first, end, hex ? support::is_hex_digit<char> : support::is_digit<char>);
 	if (it == end || *it != ';') {
 		fail_at(it, end, line);
 	}

@@ -5,20 +5,10 @@
 
 #include <quor/debug/invalid_parameter.hpp>
 
+#include "support/ascii.hpp"
+
 namespace QUOR_2_9::strings {
 namespace {
-
-template <class Unit>
-constexpr Unit lower(Unit unit) noexcept {
-	return unit >= static_cast<Unit>('A') && unit <= static_cast<Unit>('Z') ? static_cast<Unit>(unit + ('a' - 'A'))
-	                                                                        : unit;
-}
-
-template <class Unit>
-constexpr Unit upper(Unit unit) noexcept {
-	return unit >= static_cast<Unit>('a') && unit <= static_cast<Unit>('z') ? static_cast<Unit>(unit - ('a' - 'A'))
-	                                                                        : unit;
-}
 
 template <class Text>
 Text lower_range(Text const &text, types::uint32 start, types::uint32 end) {
@@ -30,7 +20,7 @@ Text lower_range(Text const &text, types::uint32 start, types::uint32 end) {
 	}
 	Text result(text);
 	for (std::size_t i = first; i < last; ++i) {
-		result[i] = lower(result[i]);
+		result[i] = support::to_lower(result[i]);
 	}
 	return result;
 }
@@ -57,27 +47,27 @@ ustring32 lower_case(ustring32 const &text, types::uint32 start, types::uint32 e
 }
 
 ustring8 to_lower(ustring8 const &text) {
-	return changed(text, lower<char>);
+	return changed(text, support::to_lower<char>);
 }
 
 ustring16 to_lower(ustring16 const &text) {
-	return changed(text, lower<types::wide_char>);
+	return changed(text, support::to_lower<types::wide_char>);
 }
 
 ustring32 to_lower(ustring32 const &text) {
-	return changed(text, lower<types::utf32_char>);
+	return changed(text, support::to_lower<types::utf32_char>);
 }
 
 ustring8 to_upper(ustring8 const &text) {
-	return changed(text, upper<char>);
+	return changed(text, support::to_upper<char>);
 }
 
 ustring16 to_upper(ustring16 const &text) {
-	return changed(text, upper<types::wide_char>);
+	return changed(text, support::to_upper<types::wide_char>);
 }
 
 ustring32 to_upper(ustring32 const &text) {
-	return changed(text, upper<types::utf32_char>);
+	return changed(text, support::to_upper<types::utf32_char>);
 }
 
 } // namespace QUOR_2_9::strings

@@ -9,6 +9,7 @@
 #include <quor/strings/transcode.hpp>
 
 #include "generic/convert/decimal_text.hpp"
+#include "support/ascii.hpp"
 #include "types/holder.hpp"
 
 namespace QUOR_2_9::types {
@@ -70,12 +71,8 @@ uint32 length_of(T const &text) noexcept {
 /// match in both cases, by their numeric value.
 template <class T>
 bool is_word(T const &text, std::string_view word) noexcept {
-	return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](auto unit, char letter) noexcept {
-		using number = std::make_unsigned_t<decltype(unit)>;
-		auto const value = static_cast<number>(unit);
-		auto const lower = static_cast<number>(static_cast<unsigned char>(letter));
-		return value == lower || value == lower - ('a' - 'A');
-	});
+	return std::equal(text.begin(), text.end(), word.begin(), word.end(),
+	                  [](auto unit, char letter) noexcept { return support::is_letter_in_any_case(unit, letter); });
 }
 
 } // namespace

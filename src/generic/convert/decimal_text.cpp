@@ -8,18 +8,12 @@
 #include <string_view>
 #include <system_error>
 
+#include "support/ascii.hpp"
+
 namespace QUOR_2_9::generic::convert::detail {
 namespace {
 
 constexpr int most_digits = 340;
-
-bool is_digit(char c) noexcept {
-	return c >= '0' && c <= '9';
-}
-
-bool is_blank(char c) noexcept {
-	return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 /// Appends characters to a buffer that is known to have the room.
 class writer {
@@ -91,7 +85,7 @@ std::int64_t leading_exponent(char const *text, char const *end) noexcept {
 	std::int64_t place = -1;
 	std::int64_t first = none;
 	bool behind_point = false;
-	for (; text != end && (is_digit(*text) || *text == '.'); ++text) {
+	for (; text != end && (support::is_digit(*text) || *text == '.'); ++text) {
 		if (*text == '.') {
 			behind_point = true;
 			continue;
@@ -122,7 +116,7 @@ bool starts_with_digits(char const *text, char const *end) noexcept {
 	if (text != end && *text == '.') {
 		++text;
 	}
-	return text != end && is_digit(*text);
+	return text != end && support::is_digit(*text);
 }
 
 /// Reads digits with a point and an exponent, which must be there.
@@ -141,7 +135,7 @@ bool starts_with_word(char const *text, char const *end, std::string_view word) 
 		return false;
 	}
 	return std::equal(word.begin(), word.end(), text,
-	                  [](char wanted, char c) { return c == wanted || c == static_cast<char>(wanted - 'a' + 'A'); });
+	                  [](char wanted, char c) { return support::is_letter_in_any_case(c, wanted); });
 }
 
 std::size_t print(double value, int precision, char *buffer, std::size_t size, std::chars_format format) noexcept {
@@ -194,7 +188,7 @@ std::size_t gcvt(double value, int digits, char *buffer) noexcept {
 
 double atof(char const *text, std::size_t length) noexcept {
 	char const *const end = text + length;
-	while (text != end && is_blank(*text)) {
+	while (text != end && support::is_blank(*text)) {
 		++text;
 	}
 	bool const negative = text != end && *text == '-';

@@ -8,6 +8,8 @@
 #include <limits>
 #include <type_traits>
 
+#include "support/ascii.hpp"
+
 namespace QUOR_2_9::generic::convert {
 namespace {
 
@@ -55,21 +57,15 @@ std::int64_t unit_value(Unit unit) noexcept {
 	return static_cast<std::int64_t>(unit);
 }
 
-bool is_blank(std::int64_t c) noexcept {
-	return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
 constexpr uint32 no_digit = 0xFFFFFFFF;
 
 /// The value of a digit in a radix from 2 to 36, or `no_digit`.
 uint32 digit_value(std::int64_t c, uint32 radix) noexcept {
 	std::int64_t value = -1;
-	if (c >= '0' && c <= '9') {
+	if (support::is_digit(c)) {
 		value = c - '0';
-	} else if (c >= 'A' && c <= 'Z') {
-		value = c - 'A' + 10;
-	} else if (c >= 'a' && c <= 'z') {
-		value = c - 'a' + 10;
+	} else if (support::is_letter(c)) {
+		value = support::to_lower(c) - 'a' + 10;
 	}
 	return value >= 0 && value < static_cast<std::int64_t>(radix) ? static_cast<uint32>(value) : no_digit;
 }
@@ -115,7 +111,7 @@ bool detect_radix(cursor<Unit> &at, uint32 &radix) noexcept {
 /// whatever the length.
 template <class Unit>
 bool find_digits(cursor<Unit> &at, bool &negative, uint32 &radix, report_site const &site) {
-	while (is_blank(at.unit())) {
+	while (support::is_blank(at.unit())) {
 		if (!at.step()) {
 			return false;
 		}
