@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -70,8 +71,40 @@ TEST_F(posix_files, mode_bits_come_from_the_type_of_the_file) {
 
 TEST_F(posix_files, a_link_without_target_does_not_exist) {
 	link("dangling", "missing");
-	EXPECT_FALSE(io::exists(path("dangling")));
-	EXPECT_FALSE(quor::system::have_read_access(path("dangling")));
+	link("loop", "loop");
+	for (char const *name : {"dangling", "loop"}) {
+		SCOPED_TRACE(name);
+		std::string content = "old";
+		EXPECT_FALSE(io::exists(path(name)));
+		EXPECT_FALSE(io::is_file(path(name)));
+		EXPECT_FALSE(quor::system::have_read_access(path(name)));
+		EXPECT_EQ(quor::system::load_file(path(name), content), 1);
+		EXPECT_EQ(quor::system::list_directory(path()).size(), 2U);
+	}
+	// Writing makes the target.
+	EXPECT_EQ(quor::system::store_file(path("dangling"), "x"), 0);
+	EXPECT_EQ(m_directory.read("missing"), "x");
+	EXPECT_EQ(quor::system::store_file(path("loop"), "x"), 1);
+}
+
+TEST_F(posix_files, a_last_separator_asks_for_a_directory) {
+	m_directory.write("f", "x");
+	m_directory.make_directory("d");
+	EXPECT_TRUE(io::is_directory(path("d\\")));
+	EXPECT_TRUE(io::exists(path("d\\\\")));
+	EXPECT_TRUE(quor::system::create_directory(path("d\\")));
+	EXPECT_FALSE(io::exists(path("f\\")));
+	std::string content = "old";
+	EXPECT_EQ(quor::system::load_file(path("f\\"), content), 1);
+	EXPECT_EQ(quor::system::store_file(path("f\\"), "y"), 1);
+	EXPECT_EQ(quor::system::store_file(path("new\\"), "y"), 1);
+	io::remove_file(path("f\\"));
+	io::remove_file(path("d\\"));
+	io::move(path("g\\"), path("f"));
+	EXPECT_EQ(m_directory.read("f"), "x");
+	EXPECT_EQ(quor::system::list_directory(path()).size(), 2U);
+	io::remove_dir(path("d\\"));
+	EXPECT_FALSE(m_directory.has("d"));
 }
 
 TEST_F(posix_files, read_access_is_the_owners_bit_whoever_asks) {
@@ -125,6 +158,23 @@ TEST_F(posix_files, store_file_into_a_pipe_gives_1_and_never_waits) {
 	ASSERT_NE(reader, -1);
 	EXPECT_EQ(quor::system::store_file(path("pipe"), "x"), 1);
 	::close(reader);
+}
+
+TEST_F(posix_files, a_pipe_is_not_opened_even_for_a_moment) {
+	ASSERT_EQ(::mkfifo(native("pipe").c_str(), 0600), 0);
+	int const watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+	ASSERT_NE(watch, -1);
+	ASSERT_NE(::inotify_add_watch(watch, native("pipe").c_str(), IN_OPEN), -1);
+	int const reader = ::open(native("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+	ASSERT_NE(reader, -1);
+	alignas(inotify_event) char events[1024];
+	EXPECT_GT(::read(watch, events, sizeof(events)), 0);
+	std::string content = "old";
+	EXPECT_EQ(quor::system::load_file(path("pipe"), content), 1);
+	EXPECT_EQ(quor::system::store_file(path("pipe"), "x"), 1);
+	EXPECT_EQ(::read(watch, events, sizeof(events)), -1);
+	::close(reader);
+	::close(watch);
 }
 
 TEST_F(posix_files, store_file_into_a_device_gives_0) {

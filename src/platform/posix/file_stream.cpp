@@ -14,17 +14,25 @@ namespace {
 
 constexpr std::size_t largest_step = std::size_t(1) << 30;
 
-/// Opens without waiting for a pipe's other side, and without taking a terminal over;
-/// -1 where the path doesn't open.
-int open_path(types::wide_string const &path, int flags) {
+/// Opens without waiting for a pipe's other side, and without taking a terminal over; -1
+/// where the path doesn't open or leads to a file of a type that isn't `wanted`. Such a
+/// file isn't opened even for a moment, unless it comes in between: the other side of a
+/// pipe would notice.
+template <class Wanted>
+int open_path(types::wide_string const &path, int flags, Wanted wanted) {
 	auto const native = native_path(path);
-	if (!native) {
+	struct stat found = {};
+	if (!native || (::stat(native->c_str(), &found) == 0 && !wanted(found.st_mode))) {
 		return -1;
 	}
 	int handle = -1;
 	do {
 		handle = ::open(native->c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
 	} while (handle == -1 && errno == EINTR);
+	if (handle != -1 && (::fstat(handle, &found) != 0 || !wanted(found.st_mode))) {
+		::close(handle);
+		return -1;
+	}
 	return handle;
 }
 
@@ -34,18 +42,8 @@ int handle_of(std::intptr_t handle) {
 
 } // namespace
 
-input_file::input_file(types::wide_string const &path) {
-	int const handle = open_path(path, O_RDONLY);
-	if (handle == -1) {
-		return;
-	}
-	struct stat found = {};
-	if (::fstat(handle, &found) != 0 || !S_ISREG(found.st_mode)) {
-		::close(handle);
-		return;
-	}
-	m_handle = handle;
-}
+input_file::input_file(types::wide_string const &path)
+    : m_handle(open_path(path, O_RDONLY, [](mode_t mode) { return S_ISREG(mode); })) {}
 
 input_file::~input_file() {
 	if (is_open()) {
@@ -72,18 +70,8 @@ std::size_t input_file::read(char *to, std::size_t count) noexcept {
 	return done;
 }
 
-output_file::output_file(types::wide_string const &path) {
-	int const handle = open_path(path, O_WRONLY | O_CREAT | O_TRUNC);
-	if (handle == -1) {
-		return;
-	}
-	struct stat found = {};
-	if (::fstat(handle, &found) != 0 || S_ISFIFO(found.st_mode)) {
-		::close(handle);
-		return;
-	}
-	m_handle = handle;
-}
+output_file::output_file(types::wide_string const &path)
+    : m_handle(open_path(path, O_WRONLY | O_CREAT | O_TRUNC, [](mode_t mode) { return !S_ISFIFO(mode); })) {}
 
 output_file::~output_file() {
 	if (is_open()) {

@@ -1,8 +1,6 @@
 #include "platform/debug_line.hpp"
 
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
-#include <windows.h>
+#include "platform/windows/windows_api.hpp"
 
 namespace QUOR_2_9::platform {
 
