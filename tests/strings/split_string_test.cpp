@@ -150,6 +150,14 @@ TEST(split_string, classes_and_standard_strings_mix) {
 	EXPECT_EQ(wide_standard.size(), 2U);
 	std::vector<ustring8> const from_literal = split_string("a,b", ustring8(","), 0);
 	EXPECT_EQ(from_literal.size(), 2U);
+	std::vector<std::string> const from_standard = split_string("a,b", std::string(","), 0);
+	EXPECT_EQ(from_standard.size(), 2U);
+	// A standard string of 32-bit units counts as the class.
+	quor::types::utf32_string const standard32(QUOR_U32("a,b"));
+	std::vector<ustring32> const utf32 = split_string(standard32, ustring32(QUOR_U32(",")), 0);
+	EXPECT_EQ(utf32.size(), 2U);
+	EXPECT_EQ(split_string(standard32, standard32, 0), std::vector<ustring32>(1));
+	EXPECT_EQ(split_string(ustring32(standard32), quor::types::utf32_string(QUOR_U32(","))), utf32);
 }
 
 } // namespace

@@ -14,7 +14,8 @@
 /// All overloads: sizes are stored sizes, zero units are ordinary. Untrusted input:
 /// safe. Thread-safety: the text belongs to the caller's thread. Cost: linear in the
 /// old and the new text for each unit of `from` at worst, however many matches there
-/// are; without a match nothing is allocated. On an exception the text is unchanged.
+/// are; without a match nothing is allocated, beyond what a literal or a standard string
+/// needs to become the class of the text. On an exception the text is unchanged.
 ///
 /// @since 2.9
 

@@ -16,14 +16,16 @@
 /// piece; "a," with `max_splits` 1 gives "a". An empty text gives no piece at all. An
 /// empty separator gives one piece, the whole text, even an empty one.
 ///
-/// All overloads: the result has the class of the text; literals mean `ustring8` or, of
-/// wide units, `ustring16`. Untrusted input: safe. Thread-safety: pure functions. Cost:
-/// linear in the text for each unit of the separator at worst, allocates the pieces.
-/// The standard vector's length error is the only report.
+/// All overloads: the result has the class of the text. A literal text takes the class of
+/// the separator; two literals mean the Unicode class of their unit, `ustring8` for "".
+/// Untrusted input: safe. Thread-safety: pure functions. Cost: linear in the text for each
+/// unit of the separator at worst, allocates the pieces. The standard vector's length
+/// error is the only report.
 ///
 /// @since 2.9
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <quor/export.hpp>
@@ -70,9 +72,10 @@ std::vector<basic_ustring<Unit, Traits>> split_string(basic_ustring<Unit, Traits
 	return split_string(text, basic_ustring<Unit, Traits>(separator), max_splits);
 }
 
-/// The same for a standard string and a text of the library's classes as separator.
+/// The same for a standard string and a text of the library's classes as separator. A
+/// standard string of 32-bit units counts as `ustring32`.
 /// @since 2.9
-template <class Unit, class Traits>
+template <class Unit, class Traits, std::enable_if_t<!std::is_same_v<Unit, types::utf32_char>, int> = 0>
 std::vector<std::basic_string<Unit, Traits>> split_string(std::basic_string<Unit, Traits> const &text,
                                                           basic_ustring<Unit, Traits> const &separator,
                                                           int max_splits = 0) {

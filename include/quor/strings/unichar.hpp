@@ -89,7 +89,7 @@ QUOR_API types::uint32 character_index(ustring8 const &text, types::uint32 index
 ///
 /// As above; a high surrogate without a low one behind it gives all ones.
 /// Note: a low surrogate on its own counts as a character, but in a text that *begins*
-/// with one every index from 1 up gives all ones, unless the first step meets a pair.
+/// with one every index from 1 up gives all ones.
 /// @since 2.9
 QUOR_API types::uint32 character_index(ustring16 const &text, types::uint32 index);
 
