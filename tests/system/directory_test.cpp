@@ -140,6 +140,15 @@ TYPED_TEST(directory_all_widths, get_directory_files_of_no_directory_adds_nothin
 	EXPECT_EQ(files, std::vector<TypeParam>());
 }
 
+TYPED_TEST(directory_all_widths, get_directory_files_takes_an_element_of_the_files_as_path) {
+	this->m_directory.write("a.txt", "");
+	this->m_directory.write("sub/b.txt", "");
+	std::vector<TypeParam> files{this->path()};
+	files.shrink_to_fit();
+	get_directory_files(files.front(), files);
+	EXPECT_EQ(sorted(files), this->paths({"", "a.txt", "sub\\b.txt"}));
+}
+
 TYPED_TEST(directory_all_widths, get_directory_files_is_depth_first) {
 	for (char const *name : {"d/1", "d/e/2", "d/e/3", "d/f/4", "5", "g/6"}) {
 		this->m_directory.write(name, "");
@@ -186,6 +195,9 @@ TYPED_TEST(directory_all_widths, list_directory_of_no_directory_is_empty) {
 	EXPECT_TRUE(list_directory(this->path("f.txt")).empty());
 	EXPECT_TRUE(list_directory(this->path("empty")).empty());
 	EXPECT_TRUE(list_directory(TypeParam()).empty());
+	auto with_zero = this->path();
+	with_zero.push_back(0);
+	EXPECT_TRUE(list_directory(with_zero).empty());
 }
 
 TEST(directory, literals_of_every_width_are_understood) {
@@ -203,6 +215,11 @@ TEST(directory, literals_of_every_width_are_understood) {
 	EXPECT_EQ(wide, list_directory(QUOR_W("d")));
 	EXPECT_EQ(full, list_directory(QUOR_U32("d")));
 	EXPECT_EQ(narrow, std::vector<ustring8>{"d\\f.txt"});
+	EXPECT_EQ(narrow, list_directory(std::string("d")));
+	get_directory_files(std::string("d"), narrow);
+	EXPECT_EQ(narrow.size(), 2U);
+	EXPECT_TRUE(create_directory(std::string("s")));
+	EXPECT_TRUE(create_directory(quor::types::wide_string(QUOR_W("t"))));
 	EXPECT_TRUE(create_directory(QUOR_W("w")));
 	EXPECT_TRUE(create_directory(QUOR_U32("u")));
 }
@@ -217,9 +234,26 @@ TEST(directory, listings_keep_points_above_ffff_in_names) {
 	EXPECT_EQ(files, std::vector<ustring8>{directory.path("\xF0\x9F\x98\x80")});
 	EXPECT_EQ(list_directory(directory.path()), files);
 	EXPECT_EQ(list_directory(root), std::vector<ustring16>{root + name});
+	EXPECT_EQ(list_directory(quor::strings::utf16_to_utf32(root)),
+	          std::vector<ustring32>{quor::strings::utf16_to_utf32(root + name)});
 	// The text that comes back names another file when it is UTF-8.
 	EXPECT_FALSE(quor::system::io::exists(files[0]));
 	EXPECT_TRUE(quor::system::io::exists(ustring16(root + name)));
+}
+
+TEST(directory, listings_begin_with_the_path_as_it_reached_the_system) {
+	temporary_directory const directory;
+	working_directory const here(directory.root());
+	// U+10000 moves to U+20000, and malformed text becomes "-1".
+	EXPECT_TRUE(create_directory("\xF0\x90\x80\x80"));
+	EXPECT_TRUE(create_directory("-1"));
+	EXPECT_EQ(quor::system::store_file("\xF0\x90\x80\x80\\f", "x"), 0);
+	EXPECT_EQ(quor::system::store_file("-1\\g", "x"), 0);
+	std::vector<ustring8> files;
+	get_directory_files("\xF0\x90\x80\x80", files);
+	get_directory_files("bad \xFF", files);
+	EXPECT_EQ(files, (std::vector<ustring8>{"\xF0\xA0\x80\x80\\f", "-1\\g"}));
+	EXPECT_EQ(list_directory("bad \xFF"), std::vector<ustring8>{"-1\\g"});
 }
 
 } // namespace

@@ -122,7 +122,19 @@ TEST(file, literals_of_every_width_are_understood) {
 	EXPECT_EQ(load_file(QUOR_U32("f.txt"), text), 0);
 	EXPECT_EQ(load_file(std::string("f.txt"), text), 0);
 	EXPECT_EQ(text, "content");
+	EXPECT_EQ(load_file(std::string("f.txt"), plain), 0);
+	EXPECT_EQ(load_file(quor::types::wide_string(QUOR_W("f.txt")), plain), 0);
+	EXPECT_EQ(load_file(QUOR_U32("f.txt"), plain), 0);
 	EXPECT_TRUE(have_read_access("f.txt"));
+	EXPECT_TRUE(have_read_access(QUOR_W("f.txt")));
+	EXPECT_TRUE(have_read_access(QUOR_U32("f.txt")));
+	EXPECT_TRUE(have_read_access(std::string("f.txt")));
+	EXPECT_EQ(store_file(QUOR_W("w.txt"), plain), 0);
+	EXPECT_EQ(store_file(QUOR_U32("u.txt"), text), 0);
+	EXPECT_EQ(store_file(std::string("s.txt"), std::string("s")), 0);
+	EXPECT_EQ(store_file(quor::types::wide_string(QUOR_W("x.txt")), std::string("x")), 0);
+	EXPECT_EQ(directory.read("w.txt"), "content");
+	EXPECT_EQ(directory.read("x.txt"), "x");
 }
 
 TEST(file, load_file_into_the_path_itself_is_safe) {
@@ -131,6 +143,13 @@ TEST(file, load_file_into_the_path_itself_is_safe) {
 	auto path = directory.path("f.txt");
 	EXPECT_EQ(load_file(path, path), 0);
 	EXPECT_EQ(path, "content");
+}
+
+TEST(file, store_file_of_the_path_itself_is_safe) {
+	temporary_directory const directory;
+	auto const path = directory.path("f.txt");
+	EXPECT_EQ(store_file(path, path), 0);
+	EXPECT_EQ(directory.read("f.txt"), path);
 }
 
 } // namespace

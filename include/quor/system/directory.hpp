@@ -42,7 +42,8 @@ QUOR_API bool create_directory(strings::ustring32 const &path);
 /// Each path is that of the directory as it was given, a backslash, and the names below
 /// it with backslashes between; so a directory given as "d\\" yields "d\\\\name". Links
 /// are followed, but not into a directory that the walk is already inside of. "Readable"
-/// is what `have_read_access` answers. A directory that can't be read adds nothing.
+/// is what `have_read_access` answers. A directory that can't be read, and a path with a
+/// zero unit in it, adds nothing. `path` may be an element of `files`.
 /// Names that a path can't spell (with a backslash in them, or not UTF-8, on systems
 /// that allow this) are left out.
 ///
@@ -56,7 +57,8 @@ QUOR_API void get_directory_files(strings::ustring32 const &path, std::vector<st
 
 /// The paths of the entries of one directory, files, directories and all else alike, in
 /// the system's order. Each path is that of the directory as it was given, a backslash
-/// and the name. Empty where the directory can't be read.
+/// and the name. Empty where the directory can't be read, and for a path with a zero unit
+/// in it.
 ///
 /// The first entry that the system gives is dropped unseen. It is "." nearly everywhere;
 /// on a file system where it isn't (the root of a drive on Windows), an entry is missing.

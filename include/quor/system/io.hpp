@@ -15,10 +15,11 @@
 /// system, by `utf8_to_utf16` or `utf32_to_utf16`. Two of their rules show: malformed
 /// text becomes the path "-1", and a character above U+FFFF in a `ustring8` or
 /// `ustring32` moves by 0x10000, so that only a `ustring16` can name a file with such a
-/// character as it is. A path ends at its first zero unit. An empty path names nothing:
-/// every operation on it fails. On systems that separate names with a slash each
-/// backslash is turned into one and the path goes out as UTF-8; a path with an unpaired
-/// surrogate names nothing there. Links are followed.
+/// character as it is, and what a listing gives back begins with the moved text. A path
+/// ends at its first zero unit. An empty path names nothing: every operation on it fails.
+/// On systems that separate names with a slash each backslash is turned into one and the
+/// path goes out as UTF-8; a path with an unpaired surrogate names nothing there. Links
+/// are followed.
 ///
 /// No operation throws anything but `std::bad_alloc` or `std::length_error` for want of
 /// memory. Thread-safety: no state is kept; each operation is as atomic as the system's.
@@ -59,8 +60,9 @@ QUOR_API bool is_file(strings::ustring32 const &path);
 /// Renames a file or directory: `move("new.txt", "old.txt")`. The new path comes first.
 ///
 /// Nothing is reported; ask `exists`. Nothing is replaced: where `target` exists, nothing
-/// happens. The test is part of the rename itself, except on file systems that offer no
-/// exclusive rename, where another process may create a directory's new name in between.
+/// happens. A file can go to another volume on Windows alone, a directory nowhere. The test
+/// is part of the rename itself, except on file systems that offer no exclusive rename,
+/// where another process may create a directory's new name in between.
 /// @since 2.9
 /// @{
 QUOR_API void move(strings::ustring8 const &target, strings::ustring8 const &source);
