@@ -434,6 +434,39 @@ void check_streams(failures &into) {
 	HOLDS(out.str() == "-5 5 text");
 }
 
+void check_paths(failures &into) {
+	namespace io = quor::system::io;
+	std::string content;
+	std::vector<ustring8> narrow;
+	std::vector<ustring16> wide;
+	std::vector<ustring32> full;
+	HOLDS(!io::exists("") && !io::exists(QUOR_W("")) && !io::exists(QUOR_U32("")) && !io::exists(std::string()));
+	HOLDS(!io::is_file("") && !io::is_directory(wide_string()) && !quor::system::have_read_access(""));
+	HOLDS(quor::system::load_file("", content) == 1 && quor::system::store_file("", content) == 1);
+	HOLDS((quor::system::get_directory_files("", narrow), narrow == quor::system::list_directory("")));
+	HOLDS((quor::system::get_directory_files(QUOR_W(""), wide), wide == quor::system::list_directory(wide_string())));
+	HOLDS((quor::system::get_directory_files(QUOR_U32(""), full), full == quor::system::list_directory(QUOR_U32(""))));
+}
+
+void check_catalogs(failures &into) {
+	using quor::i18n::message_catalogs;
+	message_catalogs catalogs;
+	message_catalogs const &fixed = catalogs;
+	auto const &missing = message_catalogs::s_nil_message;
+	char key[] = "key";
+	HOLDS(&fixed.message("app", "key") == &missing && &fixed.message(key, key) == &missing);
+	HOLDS(&fixed.message(std::string("app"), "key") == &missing && &fixed.message(ustring8("app"), "key") == &missing);
+	HOLDS(&fixed.message(QUOR_W("app"), wide_string()) == &missing &&
+	      &fixed.message(QUOR_U32("a"), QUOR_U32("k")) == &missing);
+	HOLDS(!fixed.has_catalog("app") && !fixed.has_catalog("app", "en") && !fixed.has_message("app", "key"));
+	HOLDS(fixed.size("app") == 0 && fixed.count(QUOR_W("app")) == 0 && fixed.begin("app") == fixed.end("app"));
+	HOLDS(catalogs.load("", "en") == message_catalogs::entity_not_found && catalogs.load("", "en", "app"));
+	HOLDS(catalogs.load(std::vector<std::string>{""}, "en") &&
+	      catalogs.load(std::vector<wide_string>{QUOR_W("")}, "en"));
+	HOLDS(catalogs.load(std::vector<ustring16>{QUOR_W("")}, QUOR_W("en")) && catalogs.load_file("", "en"));
+	HOLDS(!catalogs.catalog("app").has_message("key") && !catalogs.catalog("app").is_language_loaded(QUOR_W("en")));
+}
+
 } // namespace
 
 namespace quor_test {
@@ -452,6 +485,8 @@ std::vector<std::string> overload_matrix_failures() {
 	check_variant_texts(into);
 	check_arguments(into);
 	check_streams(into);
+	check_paths(into);
+	check_catalogs(into);
 	return into.texts();
 }
 
