@@ -211,7 +211,7 @@ types::uint32 xmc_file_loader::combine_data(catalog_map &target) {
 			    target.emplace(name, catalog_map::mapped_type(generic::abilities::create_dynamic<catalog_t>())).first;
 		}
 		if (!entry->second) {
-			throw static_cast<char const *>("unreferanced object");
+			throw "unreferanced object";
 		}
 		catalog_t &catalog = *entry->second;
 		catalog._name(name);

@@ -49,7 +49,7 @@ ustring8 text_of(Iterator const &it, Iterator const &end) {
 template <class Iterator>
 ustring8 attribute_value(Iterator &it, Iterator const &end) {
 	++it;
-	ustring8 const value = text_of(it, end);
+	ustring8 value = text_of(it, end);
 	if (it != end) {
 		++it;
 	}

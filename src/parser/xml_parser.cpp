@@ -11,7 +11,12 @@ namespace QUOR_2_9::parser {
 
 namespace {
 
-using namespace detail;
+using detail::fail;
+using detail::fail_at;
+using detail::is_letter;
+using detail::is_name_character;
+using detail::is_space;
+using detail::read_entity;
 using strings::ustring8;
 
 template <class Delegate, class... Texts>
