@@ -35,9 +35,9 @@ types::uint32 decode_at(Unit const *text, types::uint32 length, types::uint32 in
 }
 
 /// Steps over `index` code points. `step` gives the units of the one at an offset
-/// within the text, 0 for bad input; `zero_step` does it for the terminating zero.
+/// within the text, 0 for bad input; the terminating zero counts as one.
 template <class Text, class Step>
-types::uint32 walk(Text const &text, types::uint32 index, Step step, unsigned int zero_step) {
+types::uint32 walk(Text const &text, types::uint32 index, Step step) {
 	if (index >= text.size()) {
 		return all_ones;
 	}
@@ -46,7 +46,7 @@ types::uint32 walk(Text const &text, types::uint32 index, Step step, unsigned in
 		if (offset > text.size()) {
 			debug::invalid_parameter("string subscript out of range", "strings\\unichar", __LINE__);
 		}
-		unsigned int const units = offset < text.size() ? step(offset) : zero_step;
+		unsigned int const units = offset < text.size() ? step(offset) : 1;
 		if (units == 0) {
 			return all_ones;
 		}
@@ -101,7 +101,7 @@ types::uint32 character_index(ustring8 const &text, types::uint32 index) {
 	auto const step = [&text](std::size_t offset) {
 		return detail::decode_utf8(text.data() + offset, text.size() - offset).units;
 	};
-	return walk(text, index, step, 1);
+	return walk(text, index, step);
 }
 
 types::uint32 character_index(ustring16 const &text, types::uint32 index) {
@@ -114,7 +114,7 @@ types::uint32 character_index(ustring16 const &text, types::uint32 index) {
 		}
 		return detail::decode_utf16(text.data() + offset, text.size() - offset).units;
 	};
-	return walk(text, index, step, single);
+	return walk(text, index, step);
 }
 
 } // namespace QUOR_2_9::strings
