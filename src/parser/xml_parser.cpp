@@ -13,11 +13,11 @@ namespace {
 
 using detail::fail;
 using detail::fail_at;
-using detail::is_letter;
 using detail::is_name_character;
 using detail::is_space;
 using detail::read_entity;
 using strings::ustring8;
+using support::is_letter;
 
 template <class Delegate, class... Texts>
 void report(Delegate const &delegate, Texts const &...texts) {
