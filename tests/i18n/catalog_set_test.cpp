@@ -269,6 +269,58 @@ TEST_F(catalog_set, results_of_directories) {
 	EXPECT_EQ(result.message(), plain);
 }
 
+// The listing's order is the system's, so the test asks for it.
+TEST_F(catalog_set, directory_is_loaded_in_listing_order_up_to_the_first_fault) {
+	std::vector<std::string> const good{"a.xmc", "b.xmc", "c.xmc", "d.xmc", "e.xmc", "f.xmc", "g.xmc"};
+	for (auto const &name : good) {
+		write("d/" + name, xmc_catalog("app", "en", {{name, name}}));
+	}
+	for (auto const &name : good) {
+		SCOPED_TRACE(name);
+		m_directory.write("d/" + name, "no xml");
+		m_catalogs.erase();
+		auto const result = m_catalogs.load_directory(path("d"), "en");
+		EXPECT_TRUE(result == message_catalogs::load_failed);
+		EXPECT_NE(result.message().find("\n in file: \"" + path("d\\" + name) + "\""), ustring8::npos);
+		bool before = true;
+		for (auto const &entry : quor::system::list_directory(path("d"))) {
+			auto const key = entry.substr(entry.size() - 5);
+			before = before && key != name;
+			EXPECT_EQ(m_catalogs.has_message("app", key), before) << key;
+		}
+		write("d/" + name, xmc_catalog("app", "en", {{name, name}}));
+	}
+}
+
+TEST_F(catalog_set, result_of_a_directory_is_that_of_its_last_entry) {
+	std::string const plain = "message_catalogs::result_type - No Error";
+	std::string const loaded = plain + "\n xmc_file_loader::load_error - No Error";
+	for (char const *name : {"d/1", "d/2", "d/3", "d/4/5", "d/6/7/8", "d/9/10"}) {
+		m_directory.make_directory(name);
+		write(std::string(name) + ".xmc", xmc_catalog("app", "en", {}));
+		SCOPED_TRACE(name);
+		ustring8 last = path("d");
+		while (quor::system::io::is_directory(last)) {
+			auto const entries = quor::system::list_directory(last);
+			if (entries.empty()) {
+				break;
+			}
+			last = entries.back();
+		}
+		EXPECT_EQ(m_catalogs.load(path("d"), "en").message(), quor::system::io::is_file(last) ? loaded : plain);
+	}
+}
+
+TEST_F(catalog_set, directories_are_descended_into_however_deep) {
+	std::string name;
+	for (int depth = 0; depth != 400; ++depth) {
+		name += "d/";
+	}
+	write(name + "f.xmc", xmc_catalog("app", "en", {{"k", "deep"}}));
+	load("d", "en");
+	EXPECT_EQ(rendered(m_catalogs, "k"), "deep");
+}
+
 TEST_F(catalog_set, load_file_of_a_directory_is_a_fault) {
 	m_directory.make_directory("d.xmc");
 	EXPECT_TRUE(m_catalogs.load_file(path("d.xmc"), "en") == message_catalogs::load_failed);

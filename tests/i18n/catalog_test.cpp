@@ -112,6 +112,25 @@ TEST(catalog, assignment_takes_the_contents_and_keeps_the_count) {
 	EXPECT_FALSE(by_operator.is_created_dynamic());
 }
 
+TEST(catalog, mark_of_a_shared_catalog_stays_its_own) {
+	quor::memory::pointers::shared_pointer<catalog_t> const shared(
+	    quor::generic::abilities::create_dynamic<catalog_t>());
+	shared->_name("shared");
+	EXPECT_TRUE(shared->is_created_dynamic());
+	catalog_t const copy(*shared);
+	EXPECT_FALSE(copy.is_created_dynamic());
+	EXPECT_EQ(copy.get_ref_count(), 0U);
+	EXPECT_EQ(copy.name(), "shared");
+	catalog_t assigned;
+	assigned = *shared;
+	EXPECT_FALSE(assigned.is_created_dynamic());
+	*shared = catalog_t("other", {}, {});
+	*shared = nil;
+	EXPECT_TRUE(shared->is_created_dynamic());
+	EXPECT_EQ(shared->get_ref_count(), 1U);
+	EXPECT_TRUE(*shared == nil);
+}
+
 TEST(catalog, assignment_of_itself_changes_nothing) {
 	catalog_t catalog("app", {}, {{"k", text_in("text", "de")}});
 	auto const *const before = &catalog.message("k");

@@ -325,6 +325,14 @@ TEST(xmc_file_loader, copy_and_assignment_take_all_that_was_read) {
 	xmc_loader assigned;
 	assigned = copy;
 	EXPECT_EQ(quor_test::xmc_text(assigned), "a: m(de)=x | b: m(de)=y");
+	EXPECT_FALSE(assigned.is_cat_id_set());
+	EXPECT_EQ(loader.parse("", "fr", "b").type(), 3);
+	EXPECT_TRUE(xmc_loader(loader).is_cat_id_set());
+	EXPECT_FALSE(xmc_loader(loader).is_catalog_matched("a"));
+	assigned = loader;
+	EXPECT_TRUE(assigned.is_catalog_matched("b"));
+	EXPECT_FALSE(assigned.is_catalog_matched("a"));
+	EXPECT_EQ(assigned.get_locale_weight("fr"), 6U);
 }
 
 } // namespace

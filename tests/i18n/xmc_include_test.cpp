@@ -85,8 +85,20 @@ TEST(xmc_include, base_stays_after_a_file_for_a_text_that_follows) {
 	directory.write("s/a.xmc", document(""));
 	xmc_loader loader;
 	loader.parse(directory.path("s/a.xmc"));
-	EXPECT_EQ(loader.parse_string(ustring8(document(include("none"))), "f").message(),
-	          prefix + "File \"" + std::string(directory.path("s/none")) + "\" was not found on disk" + file_line("f"));
+	auto const expect_base = [&loader](ustring8 const &base) {
+		EXPECT_EQ(loader.parse_string(ustring8(document(include("none"))), "f").message(),
+		          prefix + "File \"" + base + "none\" was not found on disk" + file_line("f"));
+	};
+	expect_base(directory.path("s/"));
+	// A file that isn't there leaves it, one that is there but faulty doesn't.
+	EXPECT_EQ(loader.parse(directory.path("t/none.xmc")).type(), 3);
+	expect_base(directory.path("s/"));
+	directory.write("t/bad.xmc", "no xml");
+	EXPECT_EQ(loader.parse(directory.path("t/bad.xmc")).type(), 4);
+	expect_base(directory.path("t/"));
+	xmc_loader copy(loader);
+	EXPECT_EQ(copy.parse_string(ustring8(document(include("none"))), "f").message(),
+	          prefix + "File \"" + directory.path("t/none") + "\" was not found on disk" + file_line("f"));
 }
 
 TEST(xmc_include, whole_paths_are_taken_as_they_stand) {

@@ -73,12 +73,42 @@ TEST(xml_parser, copy_reports_to_the_same_objects_and_has_its_own_state) {
 	EXPECT_EQ(log.events.size(), 5U);
 }
 
-TEST(xml_parser, do_parse_advances_to_the_end) {
-	std::string const text = "<?xml?><a/>";
+TEST(xml_parser, copy_and_assignment_take_attribute_names_and_line) {
 	xml_parser parser;
-	auto begin = text.begin();
-	EXPECT_EQ(parser.do_parse(begin, text.end()).code(), 0);
-	EXPECT_TRUE(begin == text.end());
+	EXPECT_EQ(parser.parse("<?xml?><a b='1' c").code(), 1);
+	std::string const lines = "\n\n\n9";
+	auto it = lines.begin();
+	parser.parse_whitespace(it, lines.end());
+	xml_parser assigned;
+	assigned = parser;
+	for (xml_parser const &copy : {xml_parser(parser), assigned}) {
+		auto at = it;
+		try {
+			copy.parse_name(at, lines.end());
+			ADD_FAILURE() << "a name";
+		} catch (parse_error const &error) {
+			EXPECT_EQ(error.line(), 3U);
+		}
+		EXPECT_EQ(copy.parse("<?xml?></a b='1'>").code(), 9);
+	}
+}
+
+TEST(xml_parser, do_parse_advances_to_the_end_or_the_fault) {
+	struct row {
+		std::string text;
+		int code;
+		std::string rest;
+	};
+	for (row const &expected :
+	     {row{"<?xml?><a/>", 0, ""}, row{"<?xml?><a>", 1, ""}, row{"<?xml a>b?><a/>", 4, ">b?><a/>"},
+	      row{"<?xml?><a ->", 5, "->"}, row{"<?xml?><a>></a>", 5, "></a>"}, row{"<?xml?><a/><b/>", 10, "b/>"},
+	      row{"<?xml?><a b=c/>", 6, "c/>"}}) {
+		SCOPED_TRACE(expected.text);
+		xml_parser parser;
+		auto begin = expected.text.begin();
+		EXPECT_EQ(parser.do_parse(begin, expected.text.end()).code(), expected.code);
+		EXPECT_EQ(std::string(begin, expected.text.end()), expected.rest);
+	}
 }
 
 // An inner routine on a text of its own: what it gives, and how far it went.
