@@ -27,9 +27,9 @@ struct load_result_types {
 	enum error_type : int {
 		/// Success.
 		no_error = 0,
-		/// A file without any catalog.
+		/// A file without any catalog, or one that includes such a file.
 		no_catalog = 1,
-		/// A file that doesn't exist.
+		/// A file that doesn't exist, or an include that leads nowhere.
 		file_not_found = 3,
 		/// A directory that doesn't exist.
 		directory_not_found = 4,

@@ -55,7 +55,7 @@ class QUOR_API xmc_file_loader {
 public:
 	/// How deep files may include each other below the first one.
 	static constexpr types::uint32 max_include_depth = 64;
-	/// How many files one call reads, the first one included.
+	/// How many files one call reads, the first one, or the text, included.
 	static constexpr types::uint32 max_files = 4096;
 
 	/// What went wrong.
@@ -78,9 +78,9 @@ public:
 		load_unexpected = 14        ///< Anything else, includes beyond their limits among it.
 	};
 
-	/// How a load ended: a kind and a readable text of one line for the fault and one for
-	/// each enclosing message, catalog and file, from the innermost outward. Thrown
-	/// inside the loader, returned by its operations; not part of the exception tree.
+	/// How a load ended: a kind and a readable text of the fault, with the line number for most
+	/// XML faults, and a line for each enclosing message, catalog and file, innermost first.
+	/// Thrown inside the loader, returned by its operations; not part of the exception tree.
 	///
 	/// The text may hold raw bytes of the input, malformed UTF-8 and zero bytes among them.
 	/// @since 2.9
@@ -193,7 +193,7 @@ public:
 	types::uint32 combine_data(catalog_map &target);
 
 	/// The place of an id among the accepted languages, from 1; 0 for one that isn't
-	/// accepted. Linear in the id; allocates nothing.
+	/// accepted. Linear in the id, and in the number of different ids that were requested.
 	/// @since 2.9
 	types::uint32 get_locale_weight(strings::ustring8 const &language) const;
 

@@ -33,7 +33,7 @@ namespace QUOR_2_9::parser {
 /// A value: copies are deep, and a copy parses into itself. Thread-safety: one object
 /// serves one parse at a time; many readers while nobody parses.
 /// Untrusted input: safe; linear in the text. A token is a list node with a string,
-/// so a text of short tags takes some thirty times its size.
+/// so a text of short tags takes some fifty times its size.
 /// @since 2.9
 class QUOR_API xml_token_stream {
 public:
