@@ -9,6 +9,7 @@
 #include <quor/system/io.hpp>
 
 #include "i18n/utf8_text.hpp"
+#include "support/ascii.hpp"
 #include "system/examine.hpp"
 
 namespace QUOR_2_9::i18n {
@@ -31,11 +32,9 @@ namespace {
 /// Whether a path ends in ".xmc" or ".xml", in any case of ASCII letters.
 bool has_catalog_suffix(std::string_view path) {
 	auto const ends_in = [path](std::string_view suffix) {
-		auto const same = [](char unit, char lower) {
-			return unit == lower || (unit >= 'A' && unit <= 'Z' && unit - 'A' + 'a' == lower);
-		};
-		return path.size() >= suffix.size() && std::equal(suffix.rbegin(), suffix.rend(), path.rbegin(),
-		                                                  [same](char lower, char unit) { return same(unit, lower); });
+		return path.size() >= suffix.size() &&
+		       std::equal(suffix.rbegin(), suffix.rend(), path.rbegin(),
+		                  [](char lower, char unit) { return support::to_lower(unit) == lower; });
 	};
 	return ends_in(".xmc") || ends_in(".xml");
 }
