@@ -246,6 +246,21 @@ TEST(xmc_reader, parse_message_arg_attribute_without_value_keeps_its_place) {
 	EXPECT_EQ(it->value(), "x");
 }
 
+// No document makes an empty text, but it is a text.
+TEST(xmc_reader, parse_message_blank_counts_directly_behind_an_argument_only) {
+	probe loader;
+	for (auto const &[text, items] : {std::pair<char const *, std::size_t>("s:msg a: s:arg a: e:arg p:x e:msg", 2),
+	                                  {"s:msg a: s:arg a: e:arg c:x p:x e:msg", 2},
+	                                  {"s:msg a: s:arg a: e:arg t: p:x e:msg", 1},
+	                                  {"s:msg a: t: p:x e:msg", 0}}) {
+		SCOPED_TRACE(text);
+		std::list<token> tokens = tokens_of(text);
+		auto it = tokens.begin();
+		message_t const message = loader.parse_message(it, tokens.end());
+		EXPECT_EQ(std::distance(message.begin(), message.end()), static_cast<std::ptrdiff_t>(items));
+	}
+}
+
 TEST(xmc_reader, parse_message_type_ignores_case) {
 	probe const loader;
 	EXPECT_EQ(loader.parse_message_type("DURATION"), quor::i18n::message_item::type_duration);
