@@ -43,7 +43,7 @@ void expect_faults(std::vector<fault_row> const &rows, std::string (*frame)(std:
 		loader.handle_language("de_AT");
 		load_error const error = loader.parse_string(ustring8(frame(row.text)), "f");
 		EXPECT_EQ(error.type(), row.type);
-		EXPECT_EQ(error.message(), prefix + row.message + around);
+		EXPECT_EQ(error.message(), std::string(prefix).append(row.message).append(around));
 	}
 }
 
@@ -332,6 +332,7 @@ TEST(xmc_file_format, argument_type_words) {
 	    {"memor", 1},       {"\xC3\xA9", 1},
 	};
 	std::vector<content_row> rows;
+	rows.reserve(words.size());
 	for (auto const &[word, type] : words) {
 		rows.push_back({"<arg name='a' type='" + word + "'/>", "c: m(.)=" + quor_test::xmc_item(type, "a")});
 	}

@@ -32,6 +32,10 @@ std::string catalog(std::string const &name, std::string const &text) {
 	return "<catalog name=\"" + name + "\" lang=\".\"><msg name=\"m\">" + text + "</msg></catalog>";
 }
 
+std::string not_found(std::string const &name) {
+	return prefix + "File \"" + name + "\" was not found on disk";
+}
+
 std::string file_line(std::string const &name) {
 	return "\n in file: \"" + name + "\"";
 }
@@ -58,9 +62,8 @@ TEST(xmc_include, base_is_cut_at_either_separator) {
 		std::string const base = file.substr(0, file.size() - 5);
 		load_error const error = xmc_loader().parse(ustring8(file));
 		EXPECT_EQ(error.type(), 3);
-		EXPECT_EQ(error.message(), prefix + "File \"" + base + "t\\../none.xmc\" was not found on disk" +
-		                               file_line(base + "t\\../c.xmc") + file_line(base + "t\\b.xmc") +
-		                               file_line(file));
+		EXPECT_EQ(error.message(), not_found(base + "t\\../none.xmc") + file_line(base + "t\\../c.xmc") +
+		                               file_line(base + "t\\b.xmc") + file_line(file));
 	}
 }
 
@@ -70,14 +73,13 @@ TEST(xmc_include, base_of_a_bare_name_is_the_working_directory) {
 	directory.write("b.xmc", document(catalog("b", "1") + include("c.xmc")));
 	working_directory const inside(directory.root());
 	load_error const error = xmc_loader().parse("a.xmc");
-	EXPECT_EQ(error.message(),
-	          prefix + "File \"./c.xmc\" was not found on disk" + file_line("./b.xmc") + file_line("a.xmc"));
+	EXPECT_EQ(error.message(), not_found("./c.xmc") + file_line("./b.xmc") + file_line("a.xmc"));
 	// Before any file there is no base at all.
 	load_error const text = xmc_loader().parse_string(ustring8(document(include("none.xmc"))), "f");
-	EXPECT_EQ(text.message(), prefix + "File \"none.xmc\" was not found on disk" + file_line("f"));
+	EXPECT_EQ(text.message(), not_found("none.xmc") + file_line("f"));
 	xmc_loader loader;
 	EXPECT_EQ(loader.parse_string(ustring8(document(include("b.xmc"))), "f").message(),
-	          prefix + "File \"./c.xmc\" was not found on disk" + file_line("b.xmc") + file_line("f"));
+	          not_found("./c.xmc") + file_line("b.xmc") + file_line("f"));
 }
 
 TEST(xmc_include, base_stays_after_a_file_for_a_text_that_follows) {
@@ -87,7 +89,7 @@ TEST(xmc_include, base_stays_after_a_file_for_a_text_that_follows) {
 	loader.parse(directory.path("s/a.xmc"));
 	auto const expect_base = [&loader](ustring8 const &base) {
 		EXPECT_EQ(loader.parse_string(ustring8(document(include("none"))), "f").message(),
-		          prefix + "File \"" + base + "none\" was not found on disk" + file_line("f"));
+		          not_found(base + "none") + file_line("f"));
 	};
 	expect_base(directory.path("s/"));
 	// A file that isn't there leaves it, one that is there but faulty doesn't.
@@ -98,7 +100,7 @@ TEST(xmc_include, base_stays_after_a_file_for_a_text_that_follows) {
 	expect_base(directory.path("t/"));
 	xmc_loader copy(loader);
 	EXPECT_EQ(copy.parse_string(ustring8(document(include("none"))), "f").message(),
-	          prefix + "File \"" + directory.path("t/none") + "\" was not found on disk" + file_line("f"));
+	          not_found(directory.path("t/none")) + file_line("f"));
 }
 
 TEST(xmc_include, whole_paths_are_taken_as_they_stand) {
@@ -118,7 +120,7 @@ TEST(xmc_include, whole_paths_are_taken_as_they_stand) {
 		if (path == "/") {
 			EXPECT_EQ(error.message(), prefix + "Valid XML header not found" + file_line("/") + file_line("f"));
 		} else {
-			EXPECT_EQ(error.message(), prefix + "File \"" + expected + "\" was not found on disk" + file_line("f"));
+			EXPECT_EQ(error.message(), not_found(expected) + file_line("f"));
 		}
 	}
 }

@@ -195,7 +195,8 @@ TEST(xml_parser, parse_error_holds_its_fields) {
 	EXPECT_EQ(none.line(), 0U);
 	EXPECT_EQ(none.text(), "");
 	parse_error const some(parse_error::error_mismatched_end, 7, "a");
-	parse_error const copy = some;
+	parse_error copy;
+	copy = some;
 	EXPECT_EQ(copy.code(), 2);
 	EXPECT_EQ(copy.line(), 7U);
 	EXPECT_EQ(copy.text(), "a");
