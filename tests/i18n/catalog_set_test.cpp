@@ -311,16 +311,6 @@ TEST_F(catalog_set, result_of_a_directory_is_that_of_its_last_entry) {
 	}
 }
 
-TEST_F(catalog_set, directories_are_descended_into_however_deep) {
-	std::string name;
-	for (int depth = 0; depth != 400; ++depth) {
-		name += "d/";
-	}
-	write(name + "f.xmc", xmc_catalog("app", "en", {{"k", "deep"}}));
-	load("d", "en");
-	EXPECT_EQ(rendered(m_catalogs, "k"), "deep");
-}
-
 TEST_F(catalog_set, load_file_of_a_directory_is_a_fault) {
 	m_directory.make_directory("d.xmc");
 	EXPECT_TRUE(m_catalogs.load_file(path("d.xmc"), "en") == message_catalogs::load_failed);

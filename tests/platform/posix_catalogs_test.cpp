@@ -40,6 +40,18 @@ TEST(posix_catalogs, loops_of_links_end) {
 	EXPECT_EQ(catalogs.size("app"), 2U);
 }
 
+TEST(posix_catalogs, directories_are_descended_into_however_deep) {
+	temporary_directory const directory;
+	std::string name;
+	for (int depth = 0; depth != 300; ++depth) {
+		name += "d/";
+	}
+	directory.write(name + "f.xmc", xmc(xmc_catalog("app", "en", {{"f", "f"}})));
+	message_catalogs catalogs;
+	EXPECT_TRUE(catalogs.load(directory.path(), "en") == message_catalogs::no_error);
+	EXPECT_EQ(catalogs.size("app"), 1U);
+}
+
 TEST(posix_catalogs, pipes_are_passed_over_and_never_waited_for) {
 	temporary_directory const directory;
 	ASSERT_EQ(::mkfifo((directory.root() / "pipe.xmc").c_str(), 0600), 0);
