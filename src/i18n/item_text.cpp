@@ -11,9 +11,9 @@ namespace {
 /// What stands in the text in place of an item that can't be rendered.
 constexpr std::string_view invalid_text = "?invalid?";
 
-/// From this many comparisons on, a list of this many arguments is worth an index.
-constexpr std::size_t long_list = 16;
-constexpr std::size_t many_comparisons = 1024;
+/// With this many arguments and as many lookups an index is worth its memory. With fewer
+/// of either, looking at every argument is linear in the others.
+constexpr std::size_t worth_an_index = 32;
 
 /// Appends only the unit that a formatter of number and unit delivers.
 template <class Value>
@@ -91,7 +91,7 @@ bool append_any(std::string &out, message_item::type_t type, std::string_view da
 } // namespace
 
 argument_finder::argument_finder(generic::varg_list const &args, std::size_t lookups) : m_args(args) {
-	if (args.size() < long_list || lookups < many_comparisons / args.size()) {
+	if (args.size() < worth_an_index || lookups < worth_an_index) {
 		return;
 	}
 	m_index.reserve(args.size());

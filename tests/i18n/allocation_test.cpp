@@ -87,6 +87,22 @@ TEST(rendering, typed_arguments_cost_nothing_each) {
 	EXPECT_EQ(1u, allocations_of_rendering(message_t(items), args));
 }
 
+TEST(rendering, long_lists_cost_short_messages_nothing) {
+	varg_list args;
+	for (int i = 0; i != 2000; ++i) {
+		args.push_back(ustring8(), i);
+		args.at(i).name("an argument with a long name " + std::to_string(i));
+	}
+	message_item const last("an argument with a long name 1999", message_item::type_int);
+	message_t const literal(std::vector<message_item>(1000, message_item("text ")));
+	message_t const few(std::vector<message_item>(8, last));
+	quor_test::allocation_counter const counter;
+	EXPECT_EQ("1999", last.as_string(args));
+	EXPECT_EQ(0u, counter.count());
+	EXPECT_EQ(1u, allocations_of_rendering(literal, args));
+	EXPECT_EQ(1u, allocations_of_rendering(few, args));
+}
+
 TEST(rendering, doubled_messages_ask_for_twice_the_memory_at_most) {
 	auto const bytes = [](std::size_t count) {
 		varg_list args;

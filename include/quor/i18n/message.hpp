@@ -161,8 +161,9 @@ public:
 	/// @throws what the conversions of `variant` to text throw, and what the handler of
 	///         the debug channel throws.
 	/// Untrusted input: safe for any items. Cost: linear in the items, the arguments and
-	/// the result; allocates for the result and for long texts of arguments that are not
-	/// held as text, nothing for literal items.
+	/// the result; allocates for the result, for each long text of a string item, for each
+	/// report to the debug channel and, where many items meet many arguments, for an index
+	/// of the arguments. Literal items allocate nothing.
 	/// @since 2.9
 	std::string as_string(generic::varg_list const &args) const;
 

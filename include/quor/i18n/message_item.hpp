@@ -99,7 +99,8 @@ public:
 	/// @throws what the conversions of `variant` to text throw, and what the handler of
 	///         the debug channel throws.
 	/// Untrusted input: safe for any field string. Cost: linear in the number of
-	/// arguments and in the result; allocates the result.
+	/// arguments and in the result; allocates the result, the text of a string piece once
+	/// more, and a report to the debug channel.
 	/// @since 2.9
 	strings::ustring8 as_string(generic::varg_list const &args) const;
 
