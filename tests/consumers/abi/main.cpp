@@ -63,6 +63,13 @@ void check_variant_slots() {
 	check("slot of generic::clone_interface::clone", 2, slot_of(&quor::generic::clone_interface::clone));
 }
 
+void check_callable_slots() {
+	using callable = quor::functor::function_type_interface<void(int)>;
+	check("slot of functor::function_type_interface::equal", 2, slot_of(&callable::equal));
+	check("slot of functor::function_type_interface::clone", 3, slot_of(&callable::clone));
+	check("slot of the call in functor::function_type_interface", 4, slot_of(&callable::operator()));
+}
+
 } // namespace
 
 int main() {
@@ -78,5 +85,6 @@ int main() {
 	check("size of exceptions::overflow_error", 8 + 520 + sizeof(std::string),
 	      sizeof(quor::exceptions::overflow_error));
 	check_variant_slots();
+	check_callable_slots();
 	return failures;
 }

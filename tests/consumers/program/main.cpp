@@ -1,12 +1,45 @@
 // The program that every consumer project builds: a value from an inline class, calls
-// into the library, an exception that crosses its border, a message that is rendered.
+// into the library, an exception that crosses its border, a message that is rendered,
+// and the library's static objects in the program's own static initialisers. In a static
+// link nothing but their early initialisation puts them before these.
 
 #include <iostream>
 #include <vector>
 
 #include <quor/quor.hpp>
 
+namespace {
+
+// Looks at the nil objects when it is made and when it is destroyed.
+class early_user {
+public:
+	early_user() : m_count(found()) {}
+	~early_user() {
+		if (found() != 5) {
+			std::cout << "a nil object has gone too early\n";
+		}
+	}
+	int count() const { return m_count; }
+
+private:
+	static int found() {
+		using quor::types::nil;
+		quor::generic::varg_list const list(5);
+		return (list["missing"] == nil ? 1 : 0) + (list.size() == 1 ? 1 : 0) +
+		       (quor::i18n::catalog_t().message("missing") == nil ? 1 : 0) +
+		       (quor::i18n::message_catalogs().catalog("missing") == nil ? 1 : 0) +
+		       (quor::i18n::message_catalogs().message("missing", "missing") == nil ? 1 : 0);
+	}
+
+	int m_count;
+};
+
+early_user const early;
+
+} // namespace
+
 int main() {
+	std::cout << "early nil objects: " << early.count() << '\n';
 	quor::strings::ustring8 const name = quor::strings::ustring8("quor ") + "2.9";
 	std::cout << name << '\n';
 	std::cout << quor::generic::convert::str_to_int("0x2a", 0, 0, true) << '\n';
