@@ -1,8 +1,9 @@
-# quor_tests(<folder> FILES <file>... [LIBRARIES <target>...])
+# quor_tests(<folder> FILES <file>... [LIBRARIES <target>...] [LABELS <label>...])
 #
 # One test program for a folder of tests: tests/<folder>/<header>_test.cpp for each
 # public header include/quor/<folder>/<header>.hpp. Every case becomes a CTest test
-# of its own named <folder>.<suite>.<case>.
+# of its own named <folder>.<suite>.<case>, labelled <folder>.<labels>. The label `counted`
+# marks what the thread sanitizer runs.
 #
 # quor_internal_tests(<folder> FILES <file>... [PLATFORM <object library>])
 #
@@ -32,8 +33,11 @@ function(quor_add_test_program name folder)
   target_link_libraries(${name} PRIVATE quor_test_framework Threads::Threads ${test_LIBRARIES})
   target_precompile_headers(${name} REUSE_FROM quor_test_framework)
   string(REPLACE "/" "." prefix "${folder}")
+  # A single label for each test, as the discovery loses all but the first.
+  list(JOIN test_LABELS "." label)
+  string(PREPEND label "${prefix}.")
   gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST
-    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 LABELS "${prefix};${test_LABELS}")
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 LABELS "${label}")
 endfunction()
 
 function(quor_tests folder)
