@@ -130,6 +130,31 @@ TEST(delegate, failed_clone_leaves_it_empty) {
 	EXPECT_THROW(number_delegate{quor_test::unclonable()}, std::bad_alloc);
 }
 
+// Puts another callable into the delegate while it is cloned.
+class meddling : public quor_test::number_callable {
+public:
+	meddling(number_delegate &target, callable_log &log) : m_target(target), m_log(log) {}
+	bool equal(function_type_interface const & /*other*/) const override { return false; }
+	meddling *clone() const override {
+		m_target = adder(m_log, 1);
+		return new meddling(*this);
+	}
+	int operator()(int value) const override { return value * 2; }
+
+private:
+	number_delegate &m_target;
+	callable_log &m_log;
+};
+
+TEST(delegate, clone_that_assigns_to_the_delegate_loses_nothing) {
+	callable_log log;
+	number_delegate delegate;
+	delegate = meddling(delegate, log);
+	EXPECT_EQ(delegate(5), 10) << "the assignment that ends last counts";
+	EXPECT_EQ(log.cloned, 1);
+	EXPECT_EQ(log.living(), 0);
+}
+
 TEST(delegate, callable_may_replace_itself_while_it_runs) {
 	callable_log log;
 	callable_log other;

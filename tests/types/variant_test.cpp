@@ -22,8 +22,12 @@ using quor::strings::ustring32;
 using quor::strings::ustring8;
 
 enum plain_enumeration { small_value = 7 };
+enum byte_enumeration : unsigned char { byte_value = 7 };
+enum class scoped_enumeration { value };
 
 TEST(variant, every_constructor_makes_its_holder) {
+	char const constant_text[] = "x";
+	int volatile volatile_number = 5;
 	struct {
 		char const *name;
 		variant value;
@@ -56,7 +60,12 @@ TEST(variant, every_constructor_makes_its_holder) {
 	    {"32-bit literal", variant(QUOR_U32("x")), typeid(ustring32)},
 	    {"char", variant('x'), typeid(int)},
 	    {"wide unit", variant(QUOR_W('x')), typeid(int)},
+	    {"UTF-16 unit", variant(u'x'), typeid(int)},
+	    {"UTF-32 unit", variant(U'x'), typeid(unsigned int)},
 	    {"enumeration", variant(small_value), typeid(int)},
+	    {"enumeration of bytes", variant(byte_value), typeid(unsigned char)},
+	    {"constant array", variant(constant_text), typeid(ustring8)},
+	    {"volatile int", variant(volatile_number), typeid(int)},
 	    {"long", variant(5L), sizeof(long) == 8 ? typeid(int64) : typeid(long_t)},
 	    {"unsigned long", variant(5UL), sizeof(long) == 8 ? typeid(uint64) : typeid(ulong_t)},
 	    {"size_t", variant(sizeof(int)), sizeof(std::size_t) == 8 ? typeid(uint64) : typeid(unsigned int)},
@@ -76,6 +85,9 @@ TEST(variant, pointers_to_anything_but_text_are_no_values) {
 	EXPECT_FALSE((std::is_constructible_v<variant, void (*)()>));
 	EXPECT_FALSE((std::is_constructible_v<variant, int ustring8::*>));
 	EXPECT_FALSE((std::is_convertible_v<void *, variant>));
+	EXPECT_FALSE((std::is_constructible_v<variant, std::nullptr_t>));
+	EXPECT_FALSE((std::is_constructible_v<variant, char volatile *>));
+	EXPECT_FALSE((std::is_constructible_v<variant, scoped_enumeration>));
 	EXPECT_TRUE((std::is_convertible_v<char *, variant>));
 	EXPECT_TRUE((std::is_convertible_v<wide_char *, variant>));
 	EXPECT_TRUE((std::is_convertible_v<utf32_char const *, variant>));

@@ -81,7 +81,8 @@ public:
 	variant();
 	/// Nil. @since 2.9
 	variant(nil_t const &);
-	/// Holds an `int`, also for `char` and plain enumerations. @since 2.9
+	/// Holds an `int`, also for `char`, 16-bit units and enumerations that don't name their
+	/// underlying type; one that does is held as that type. @since 2.9
 	variant(int value);
 	/// Holds an `unsigned int`. @since 2.9
 	variant(unsigned int value);
