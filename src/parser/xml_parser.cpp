@@ -236,7 +236,7 @@ void xml_parser::parse_text(const_iterator &it, const_iterator const &end) const
 }
 
 ustring8 xml_parser::parse_name(const_iterator &it, const_iterator const &end) const {
-	if (it == end || !support::is_letter(*it)) {
+	if (it == end || !is_letter(*it)) {
 		fail_at(it, end, m_line);
 	}
 	const_iterator const first = it;
