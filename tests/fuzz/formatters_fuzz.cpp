@@ -15,7 +15,11 @@
 
 namespace {
 
-using namespace QUOR_2_9::i18n::_private;
+using QUOR_2_9::i18n::_private::format_double;
+using QUOR_2_9::i18n::_private::format_duration;
+using QUOR_2_9::i18n::_private::format_int;
+using QUOR_2_9::i18n::_private::format_memory;
+using QUOR_2_9::i18n::_private::format_metric;
 using QUOR_2_9::strings::ustring8;
 
 void check(bool holds, char const *what) {
@@ -65,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const *data, std::size_t size
 	ustring8 const text = format_int(value, format);
 	check(text == reference::format_int(value, format), "format_int");
 	check(text.size() < 65536 + 96, "format_int: length");
-	double image;
+	double image = 0.0;
 	std::memcpy(&image, &bits, sizeof(image));
 	check_doubles(image, format);
 	check_doubles(static_cast<double>(value) / 1000.0, format);

@@ -34,6 +34,7 @@ struct call {
 template <class Unit>
 quor_reference::outcome outcome_of(call const &made, std::vector<std::int64_t> const &units) {
 	std::vector<Unit> block;
+	block.reserve(units.size());
 	for (std::int64_t const unit : units) {
 		block.push_back(static_cast<Unit>(unit));
 	}
