@@ -255,6 +255,8 @@ TEST_F(message_catalogs_queries, message_takes_standard_strings_and_character_po
 	EXPECT_EQ(&m_catalogs.message(QUOR_U32("app"), QUOR_U32("hello")), expected);
 	EXPECT_EQ(&m_catalogs.message(ustring8("app"), "hello"), expected);
 	EXPECT_EQ(&m_catalogs.message("app", std::string("hello")), expected);
+	EXPECT_EQ(&m_catalogs.message(std::string("app"), ustring8("hello")), expected);
+	EXPECT_EQ(&m_catalogs.message(ustring8("app"), std::string("hello")), expected);
 	EXPECT_EQ(&m_catalogs.message(wide_string(QUOR_W("app")), wide_string(QUOR_W("hello"))), expected);
 }
 
@@ -278,6 +280,20 @@ TEST_F(message_catalogs_queries, literals_are_understood_everywhere) {
 	EXPECT_TRUE(catalogs.load(std::vector<wide_string>{QUOR_W("")}, "en") == message_catalogs::entity_not_found);
 	m_catalogs.erase("app");
 	EXPECT_EQ(m_catalogs.size(), 1U);
+}
+
+TEST_F(message_catalogs_queries, load_of_paths_in_braces_takes_each_in_order) {
+	m_directory.write("more.xmc", xmc(xmc_catalog("more", "en", {{"k", "more"}})));
+	std::string const app = m_directory.path("app.xmc");
+	ustring8 const more = m_directory.path("more.xmc");
+	message_catalogs catalogs;
+	EXPECT_TRUE(catalogs.load({app, more}, "en") == message_catalogs::no_error);
+	EXPECT_EQ(catalogs.size(), 3U);
+	catalogs.erase();
+	EXPECT_TRUE(catalogs.load({app.c_str(), more.c_str(), "missing"}, "en", "more") ==
+	            message_catalogs::entity_not_found);
+	EXPECT_EQ(catalogs.size(), 1U);
+	EXPECT_TRUE(catalogs.load({"missing"}, "en") == message_catalogs::entity_not_found);
 }
 
 TEST_F(message_catalogs_queries, stored_nil_message_counts_as_absent) {

@@ -464,6 +464,7 @@ void check_catalogs(failures &into) {
 	HOLDS(catalogs.load(std::vector<std::string>{""}, "en") &&
 	      catalogs.load(std::vector<wide_string>{QUOR_W("")}, "en"));
 	HOLDS(catalogs.load(std::vector<ustring16>{QUOR_W("")}, QUOR_W("en")) && catalogs.load_file("", "en"));
+	HOLDS(catalogs.load({""}, "en") && catalogs.load({"", std::string(), ustring8()}, ustring8("en"), "app"));
 	HOLDS(!catalogs.catalog("app").has_message("key") && !catalogs.catalog("app").is_language_loaded(QUOR_W("en")));
 }
 

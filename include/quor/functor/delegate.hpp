@@ -29,6 +29,9 @@ class delegate_t;
 
 /// Owns a private heap copy of a callable, or is empty.
 ///
+/// A callable is an object of a class that derives from `function_type_interface`:
+/// `member_function_t`, or one of the program's own around a plain function or a lambda.
+///
 /// Copies clone the callable; a moved-from delegate is empty. A callable may assign to,
 /// clear or destroy the delegate that is calling it: it is deleted when its last call
 /// has returned. Thread-safety: calls may go on in several threads at once, as far as

@@ -15,8 +15,10 @@
 /// @since 2.9
 
 #include <cstddef>
+#include <initializer_list>
 #include <map>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <quor/export.hpp>
@@ -75,30 +77,22 @@ public:
 	/// @since 2.9
 	~message_catalogs();
 
-	/// Gives up the catalogs and shares those of another set.
+	/// Gives up the catalogs and shares those of another set; for nil, none.
 	/// @since 2.9
 	/// @{
 	message_catalogs &assign(message_catalogs const &other);
 	message_catalogs &operator=(message_catalogs const &other);
-	/// @}
-
-	/// Gives up the catalogs.
-	/// @since 2.9
-	/// @{
 	message_catalogs &assign(types::nil_t const &);
 	message_catalogs &operator=(types::nil_t const &);
 	/// @}
 
-	/// Whether no catalog is held.
+	/// Whether no catalog is held; by `!=`, whether one is.
 	/// @since 2.9
 	/// @{
 	bool equal(types::nil_t const &) const noexcept;
 	bool operator==(types::nil_t const &) const noexcept;
-	/// @}
-
-	/// Whether a catalog is held.
-	/// @since 2.9
 	bool operator!=(types::nil_t const &) const noexcept;
+	/// @}
 
 	/// Loads one path: a file as `load_file` does, a directory as `load_directory` does; with
 	/// a catalog name only that catalog (an empty name: all). Merges into what is held.
@@ -147,6 +141,12 @@ public:
 	result_type load(std::vector<types::wide_string> const &paths, ustring16 const &language, ustring16 const &catalog);
 	result_type load(std::vector<types::wide_string> const &paths, ustring32 const &language, ustring32 const &catalog);
 	/// @}
+
+	/// The same for a list in braces, of literals or of 8-bit strings of any class:
+	/// `load({"common.xmc", "app"}, "de")`. @since 2.9
+	result_type load(std::initializer_list<ustring8> paths, ustring8 const &language, ustring8 const &catalog = {}) {
+		return load(std::vector<ustring8>(paths), language, catalog);
+	}
 
 	/// Loads one file and what it includes, whatever its suffix; with a catalog name only
 	/// that catalog.
@@ -226,18 +226,18 @@ public:
 	message_t const &message(ustring32 const &catalog, ustring32 const &key) const;
 	message_t const &message(std::string const &catalog, std::string const &key) const;
 	message_t const &message(char const *catalog, char const *key) const;
+	template <class Catalog, class Key,
+	          std::enable_if_t<std::is_base_of_v<std::string, Catalog> && std::is_base_of_v<std::string, Key>, int> = 0>
+	message_t const &message(Catalog const &catalog, Key const &key) const {
+		return message(static_cast<std::string const &>(catalog), static_cast<std::string const &>(key));
+	}
 	/// @}
 
-	/// The number of catalogs.
+	/// The number of catalogs, or of messages in the named one; 0 where it isn't held.
 	/// @since 2.9
 	/// @{
 	std::size_t size() const noexcept { return m_catalogs.size(); }
 	std::size_t count() const noexcept { return m_catalogs.size(); }
-	/// @}
-
-	/// The number of messages in a catalog; 0 where there is no such catalog.
-	/// @since 2.9
-	/// @{
 	std::size_t size(ustring8 const &name) const;
 	std::size_t size(ustring16 const &name) const;
 	std::size_t size(ustring32 const &name) const;
@@ -266,16 +266,12 @@ public:
 	message_iterator end(ustring32 const &name) const;
 	/// @}
 
-	/// Gives up all catalogs; those that another set shares live on there.
+	/// Gives up all catalogs, or the one of that name if it is held; those that another set
+	/// shares live on there.
 	/// @since 2.9
 	/// @{
 	void erase();
 	void remove();
-	/// @}
-
-	/// Gives up one catalog, if it is held.
-	/// @since 2.9
-	/// @{
 	void erase(ustring8 const &name);
 	void erase(ustring16 const &name);
 	void erase(ustring32 const &name);

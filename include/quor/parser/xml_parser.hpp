@@ -8,8 +8,7 @@
 /// use `quor/parser/xml_token_stream.hpp`.
 ///
 ///     quor::parser::xml_parser parser;
-///     parser.on_element_start() = quor::functor::member_function_t<reader, void(quor::strings::ustring8 const &)>(
-///         &my_reader, &reader::element);
+///     parser.on_element_start() = quor::functor::member_function_t(&my_reader, &reader::element);
 ///     auto error = parser.parse("<?xml version=\"1.0\"?><a>text</a>");
 ///
 /// @since 2.9
@@ -149,7 +148,9 @@ public:
 	~xml_parser();
 
 	/// The delegate that receives the name at each start tag. Assign a callable to it
-	/// before the parse; an empty delegate is passed over. The same holds for all six.
+	/// before the parse: a `functor::member_function_t`, or a class of your own that derives
+	/// from `functor::function_type_interface`; a plain function or a lambda is none. An
+	/// empty delegate is passed over. The same holds for all six.
 	/// @since 2.9
 	text_delegate &on_element_start() noexcept { return m_element_start; }
 
