@@ -8,7 +8,10 @@
 
 namespace {
 
-using namespace quor::debug;
+using quor::debug::ignore_invalid_parameter;
+using quor::debug::invalid_parameter;
+using quor::debug::invalid_parameter_handler;
+using quor::debug::set_invalid_parameter_handler;
 
 std::string last_call;
 

@@ -6,7 +6,9 @@
 
 namespace {
 
-using namespace quor::debug;
+using quor::debug::output;
+using quor::debug::output_handler;
+using quor::debug::set_output_handler;
 
 std::string written;
 

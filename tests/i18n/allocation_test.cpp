@@ -15,7 +15,11 @@ namespace {
 
 namespace quor = QUOR_2_9;
 
-using namespace quor::i18n::_private;
+using quor::i18n::_private::format_double;
+using quor::i18n::_private::format_duration;
+using quor::i18n::_private::format_int;
+using quor::i18n::_private::format_memory;
+using quor::i18n::_private::format_metric;
 using quor::strings::ustring8;
 
 // Attribute strings are written with "|" for the byte 0x01.

@@ -18,10 +18,17 @@
 
 namespace {
 
-using namespace quor::types;
 using quor::strings::ustring16;
 using quor::strings::ustring32;
 using quor::strings::ustring8;
+using quor::types::int32;
+using quor::types::int64;
+using quor::types::long_t;
+using quor::types::uint32;
+using quor::types::uint64;
+using quor::types::ulong_t;
+using quor::types::variant;
+using quor::types::wide_char;
 
 constexpr int64 smallest_64 = std::numeric_limits<int64>::min();
 constexpr int64 largest_64 = std::numeric_limits<int64>::max();

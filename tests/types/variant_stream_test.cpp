@@ -15,10 +15,18 @@
 
 namespace {
 
-using namespace quor::types;
 using quor::strings::ustring16;
 using quor::strings::ustring32;
 using quor::strings::ustring8;
+using quor::types::int64;
+using quor::types::long_t;
+using quor::types::uint64;
+using quor::types::ulong_t;
+using quor::types::utf32_char;
+using quor::types::variant;
+using quor::types::variant_value_t;
+using quor::types::wide_char;
+using quor::types::wide_string;
 
 std::string written(variant const &value) {
 	std::ostringstream stream;

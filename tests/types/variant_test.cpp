@@ -16,10 +16,21 @@
 
 namespace {
 
-using namespace quor::types;
 using quor::strings::ustring16;
 using quor::strings::ustring32;
 using quor::strings::ustring8;
+using quor::types::int32;
+using quor::types::int64;
+using quor::types::long_t;
+using quor::types::nil;
+using quor::types::nil_t;
+using quor::types::uint32;
+using quor::types::uint64;
+using quor::types::ulong_t;
+using quor::types::utf32_char;
+using quor::types::variant;
+using quor::types::wide_char;
+using quor::types::wide_string;
 
 enum plain_enumeration { small_value = 7 };
 enum byte_enumeration : unsigned char { byte_value = 7 };

@@ -18,10 +18,17 @@
 
 namespace {
 
-using namespace quor::types;
 using quor::strings::ustring16;
 using quor::strings::ustring32;
 using quor::strings::ustring8;
+using quor::types::int32;
+using quor::types::int64;
+using quor::types::uint32;
+using quor::types::uint64;
+using quor::types::utf32_char;
+using quor::types::variant;
+using quor::types::wide_char;
+using quor::types::wide_string;
 
 // An ASCII text in a holder of each of the five text types.
 std::vector<variant> in_every_text_holder(ustring8 const &text) {

@@ -13,12 +13,21 @@
 
 namespace {
 
-using namespace quor::types;
 using quor::generic::abilities::create_dynamic;
 using quor::memory::pointers::rc_pointer;
 using quor::strings::ustring16;
 using quor::strings::ustring32;
 using quor::strings::ustring8;
+using quor::types::int64;
+using quor::types::long_t;
+using quor::types::nil;
+using quor::types::nil_t;
+using quor::types::uint32;
+using quor::types::uint64;
+using quor::types::ulong_t;
+using quor::types::variant_type;
+using quor::types::variant_value_t;
+using quor::types::wide_string;
 
 // One value of each of the twenty types, in the order of the constructors of `variant`.
 using twenty_types = ::testing::Types<nil_t, int, unsigned int, signed char, short, long_t, int64, unsigned char,

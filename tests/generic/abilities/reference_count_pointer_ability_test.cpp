@@ -7,7 +7,10 @@
 
 namespace {
 
-using namespace quor::generic::abilities;
+using quor::generic::abilities::alloc_detection_ability;
+using quor::generic::abilities::create_dynamic;
+using quor::generic::abilities::reference_count_pointer_ability;
+using quor::generic::abilities::reference_count_pointer_ability_b;
 
 class node : public reference_count_pointer_ability<node> {};
 
