@@ -66,7 +66,7 @@ TEST(example_catalogs, every_language_has_every_message_with_the_same_arguments)
 		auto const messages = all_messages(load(language));
 		ASSERT_EQ(english.size(), messages.size()) << language;
 		for (auto const &[name, message] : messages) {
-			SCOPED_TRACE(language + " " + name);
+			SCOPED_TRACE(testing::Message() << language << ' ' << name);
 			ASSERT_EQ(1u, english.count(name));
 			EXPECT_EQ(arguments_of(english.at(name)), arguments_of(message));
 			EXPECT_EQ(english.at(name).meta(), message.meta());
@@ -80,7 +80,7 @@ TEST(example_catalogs, every_text_comes_from_the_language_asked_for) {
 	for (auto const &[language, origins] : accepted) {
 		std::set<std::string> seen;
 		for (auto const &[name, message] : all_messages(load(language))) {
-			SCOPED_TRACE(language + " " + name);
+			SCOPED_TRACE(testing::Message() << language << ' ' << name);
 			std::string const origin = message._orginal_locale();
 			EXPECT_TRUE(origin == "." || origins.count(origin) == 1) << origin;
 			seen.insert(origin);
@@ -100,7 +100,7 @@ TEST(example_catalogs, every_message_renders_with_sensible_values) {
 				}
 			}
 			std::string const text = message.as_string(args);
-			SCOPED_TRACE(language + " " + name + ": " + text);
+			SCOPED_TRACE(testing::Message() << language << ' ' << name << ": " << text);
 			EXPECT_EQ(std::string::npos, text.find("?invalid?"));
 			EXPECT_FALSE(text.empty());
 			EXPECT_EQ(ustring8(text), quor::strings::utf32_to_utf8(message.as_utf32(args)));
