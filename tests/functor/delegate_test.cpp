@@ -67,14 +67,14 @@ TEST(delegate, copies_clone_and_moves_take_over) {
 	EXPECT_NE(copy.get(), source.get());
 	EXPECT_EQ(copy(1), 4);
 	number_delegate moved(std::move(copy));
-	EXPECT_TRUE(copy.empty());
+	EXPECT_TRUE(copy.empty()); // NOLINT(bugprone-use-after-move): what a move leaves is told
 	EXPECT_EQ(log.living(), 2);
 	number_delegate assigned(adder(log, 9));
 	assigned = source;
 	EXPECT_EQ(assigned(0), 3);
 	EXPECT_EQ(log.living(), 3);
 	assigned = std::move(moved);
-	EXPECT_TRUE(moved.empty());
+	EXPECT_TRUE(moved.empty()); // NOLINT(bugprone-use-after-move)
 	EXPECT_EQ(log.living(), 2);
 	assigned = number_delegate();
 	EXPECT_TRUE(assigned.empty());

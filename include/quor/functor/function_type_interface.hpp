@@ -45,7 +45,9 @@ public:
 	callable_lifetime &operator=(callable_lifetime const &) noexcept { return *this; }
 
 	/// Whether calls have to be counted.
-	bool counts_calls() const noexcept { return m_counts_calls; }
+	bool counts_calls() const noexcept {
+		return m_counts_calls; // NOLINT(clang-analyzer-cplusplus.NewDelete): it can't follow the count
+	}
 	/// Another reason to keep the callable.
 	void keep() const noexcept { m_reasons.fetch_add(1, std::memory_order_relaxed); }
 	/// One reason less; whether it was the last.

@@ -52,7 +52,7 @@ TEST(alloc_detection_ability, create_dynamic_moves_its_arguments_on) {
 	std::string text(100, 'x');
 	char const *const units = text.data();
 	std::unique_ptr<widget> const made(create_dynamic<widget>(std::move(text)));
-	EXPECT_EQ(made->text().data(), units);
+	EXPECT_EQ(static_cast<void const *>(made->text().data()), static_cast<void const *>(units));
 }
 
 TEST(alloc_detection_ability, create_dynamic_lets_the_constructors_exception_through) {

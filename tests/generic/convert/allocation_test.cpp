@@ -105,7 +105,9 @@ TEST(allocation, an_exception_copy_that_fails_leaves_nothing_behind) {
 		{
 			quor_test::allocation_failure const failure(index);
 			try {
+				// NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copies are what is tested
 				exceptions::overflow_error const first(error);
+				// NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
 				exceptions::overflow_error const second(first);
 			} catch (std::bad_alloc const &) {
 				bad_alloc = true;

@@ -75,6 +75,7 @@ void for_each_type(Test test) {
 // The same bits, so that NaNs compare too.
 template <class Number>
 bool same(Number a, Number b) {
+	// NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
 	return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
