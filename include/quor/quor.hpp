@@ -10,6 +10,10 @@
 ///
 /// @since 2.9
 
+#include <quor/config/base_config_item.hpp>
+#include <quor/config/character_classes.hpp>
+#include <quor/config/config_token.hpp>
+#include <quor/config/config_tree.hpp>
 #include <quor/debug/assert_callback.hpp>
 #include <quor/debug/invalid_parameter.hpp>
 #include <quor/debug/output.hpp>

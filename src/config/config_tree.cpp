@@ -1,0 +1,280 @@
+#include <quor/config/config_tree.hpp>
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+#include "config/decimal_name.hpp"
+#include "config/key_path.hpp"
+
+namespace QUOR_2_9::config {
+namespace {
+
+using detail::key_path;
+using generic::abilities::create_dynamic;
+using strings::ustring8;
+using node_pointer = memory::pointers::rc_pointer<config_tree>;
+
+/// Puts every name at the end, where no search is needed.
+struct any_order {
+	bool operator()(std::string_view /*left*/, std::string_view /*right*/) const noexcept { return false; }
+};
+
+/// Entries of `child_map` that are taken out of it whole, so that nothing is allocated.
+using doomed_nodes = std::multimap<ustring8, node_pointer, any_order>;
+
+/// Whether letting go of a node would destroy nodes below it.
+bool takes_others_along(node_pointer const &node) noexcept {
+	return node && !node->children.empty() && node->get_ref_count() == 1 && node->is_created_dynamic();
+}
+
+/// Empties a node, and moves its children that must be emptied first to `doomed`.
+void empty_node(config_tree::child_map &children, doomed_nodes &doomed) noexcept {
+	for (auto it = children.begin(); it != children.end();) {
+		auto const current = it++;
+		if (takes_others_along(current->second)) {
+			doomed.insert(doomed.end(), children.extract(current));
+		}
+	}
+	children.clear();
+}
+
+/// Lets go of all nodes, level by level instead of each by its parent's destructor.
+void release(config_tree::child_map &children) noexcept {
+	doomed_nodes doomed;
+	empty_node(children, doomed);
+	while (!doomed.empty()) {
+		auto const node = doomed.extract(doomed.begin());
+		empty_node(node.mapped()->children, doomed);
+	}
+}
+
+/// Copies what lies below `from` to `to`, which has no children.
+void copy_children(config_tree const &from, config_tree &to) {
+	std::vector<std::pair<config_tree const *, config_tree *>> open{{&from, &to}};
+	while (!open.empty()) {
+		auto const [source, target] = open.back();
+		open.pop_back();
+		for (auto const &[name, child] : source->children) {
+			if (!child) {
+				throw "unreferanced object";
+			}
+			node_pointer const copy(create_dynamic<config_tree>(child->node_data.first, child->node_data.second));
+			target->children.emplace_hint(target->children.end(), name, copy);
+			if (!child->children.empty()) {
+				open.emplace_back(child.get(), copy.get());
+			}
+		}
+	}
+}
+
+/// A new node that has the rest of the path below it, the last node with the value.
+node_pointer make_branch(key_path &path, unsigned int flags, types::variant const &value) {
+	if (path.at_end()) {
+		return node_pointer(create_dynamic<config_tree>(flags, value));
+	}
+	node_pointer const branch(create_dynamic<config_tree>());
+	config_tree *last = branch.get();
+	while (true) {
+		ustring8 const name(path.next());
+		node_pointer const node(path.at_end() ? create_dynamic<config_tree>(flags, value)
+		                                      : create_dynamic<config_tree>());
+		last->children.emplace(name, node);
+		if (path.at_end()) {
+			return branch;
+		}
+		last = node.get();
+	}
+}
+
+/// Nodes that are being walked through, each with the next of its children.
+struct open_node {
+	config_tree::child_map::const_iterator next;
+	config_tree::child_map::const_iterator end;
+	/// The length of the prefix of its children's names.
+	std::size_t prefix;
+};
+
+void list(config_tree const &tree, config_tree::value_pair_array &out, bool recursive, ustring8 prefix) {
+	std::vector<open_node> open{{tree.children.begin(), tree.children.end(), prefix.size()}};
+	while (!open.empty()) {
+		open_node &node = open.back();
+		prefix.resize(node.prefix);
+		if (node.next == node.end) {
+			open.pop_back();
+			continue;
+		}
+		auto const &[name, child] = *node.next++;
+		if (!child) {
+			continue;
+		}
+		if (!prefix.empty()) {
+			prefix.push_back('.');
+		}
+		prefix.append(name);
+		out.emplace_back(prefix, child->node_data);
+		if (recursive && !child->children.empty()) {
+			open.push_back({child->children.begin(), child->children.end(), prefix.size()});
+		}
+	}
+}
+
+void write(std::ostream &os, std::string_view text) {
+	os.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+/// Writes the bar that indents a line.
+void write_bar(std::ostream &os, std::size_t indent) {
+	static constexpr std::string_view bar = "|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t";
+	constexpr std::size_t unit = 3;
+	for (std::size_t left = indent * unit; left != 0;) {
+		std::size_t const part = std::min(left, bar.size());
+		write(os, bar.substr(0, part));
+		left -= part;
+	}
+}
+
+void write_node(std::ostream &os, std::string_view name, config_tree::node_value const &data) {
+	write(os, name);
+	write(os, " : ");
+	if (data.first == 0) {
+		write(os, "true\n");
+		return;
+	}
+	write(os, detail::decimal_name(data.first).text());
+	write(os, " ");
+	write(os, data.second.as_string());
+	write(os, "\n");
+}
+
+} // namespace
+
+config_tree::config_tree() : node_data(0U, types::variant()) {}
+
+config_tree::config_tree(unsigned int flags, types::variant const &value) : node_data(flags, value) {}
+
+config_tree::config_tree(config_tree const &other)
+    : reference_count_pointer_ability(), clone_ability(), node_data(other.node_data) {
+	copy_children(other, *this);
+}
+
+config_tree &config_tree::operator=(config_tree const &other) {
+	if (this != &other) {
+		config_tree copy(other);
+		children.swap(copy.children);
+		node_data.swap(copy.node_data);
+	}
+	return *this;
+}
+
+config_tree::~config_tree() {
+	release(children);
+}
+
+config_tree *config_tree::clone() const {
+	return create_dynamic<config_tree>(*this);
+}
+
+void config_tree::erase() {
+	release(children);
+}
+
+void config_tree::parse_string(ustring8 const &key, ustring8 &head, ustring8 &tail) const {
+	auto const separator = std::find_if(key.begin(), key.end(), is_key_separator);
+	ustring8 first(key.begin(), separator);
+	ustring8 const rest(separator != key.end() ? separator + 1 : separator, key.end());
+	std::transform(first.begin(), first.end(), first.begin(), support::to_lower<char>);
+	head.clear();
+	tail.clear();
+	head.append(first);
+	tail.append(rest);
+}
+
+void config_tree::set_node(ustring8 const &key, types::variant const &value, unsigned int flags) {
+	types::variant const kept(value);
+	unsigned int const word = flags | flag_set;
+	key_path path(key);
+	config_tree *node = this;
+	do {
+		std::string_view const name = path.next();
+		auto const place = node->children.lower_bound(name);
+		if (place == node->children.end() || place->first != name) {
+			node->children.emplace_hint(place, name, make_branch(path, word, kept));
+			return;
+		}
+		if (!place->second) {
+			place->second = make_branch(path, word, kept);
+			return;
+		}
+		node = place->second.get();
+	} while (!path.at_end());
+	node->node_data.first = word;
+	node->node_data.second = kept;
+}
+
+config_tree::node_value const *config_tree::get_node(ustring8 const &key) const {
+	config_tree const *const node = detail::find_node(*this, key);
+	return node != nullptr ? &node->node_data : nullptr;
+}
+
+void config_tree::get_array(ustring8 const &key, value_pair_array &out) const {
+	config_tree const *const head = detail::find_node(*this, key);
+	if (head == nullptr || (head->node_data.first & flag_array) == 0) {
+		return;
+	}
+	for (unsigned int i = 0;; ++i) {
+		detail::decimal_name const name(i);
+		config_tree const *const element = detail::find_child(*head, name.text());
+		if (element == nullptr) {
+			return;
+		}
+		out.emplace_back(name.text(), element->node_data);
+	}
+}
+
+void config_tree::get_value_pair_array(ustring8 const &key, value_pair_array &out, bool recursive,
+                                       ustring8 const &prefix) const {
+	if (key.empty()) {
+		list(*this, out, recursive, prefix);
+	} else if (config_tree const *const node = detail::find_node(*this, key); node != nullptr) {
+		list(*node, out, recursive, ustring8());
+	}
+}
+
+void config_tree::dump(std::ostream &os, int indent) const {
+	auto bars = static_cast<std::size_t>(std::max(indent, 0));
+	write_bar(os, bars);
+	std::vector<open_node> open{{children.begin(), children.end(), 0}};
+	while (!open.empty()) {
+		open_node &node = open.back();
+		if (node.next == node.end) {
+			write(os, "end\n");
+			open.pop_back();
+			if (!open.empty()) {
+				write_bar(os, --bars);
+			}
+			continue;
+		}
+		auto const &[name, child] = *node.next++;
+		if (!child) {
+			continue;
+		}
+		write_node(os, name, child->node_data);
+		write_bar(os, bars);
+		if (child->children.empty()) {
+			write(os, "|\n");
+			write_bar(os, bars);
+		} else {
+			write(os, "|---------------\\\n");
+			write_bar(os, ++bars);
+			open.push_back({child->children.begin(), child->children.end(), 0});
+		}
+	}
+}
+
+std::ostream &operator<<(std::ostream &os, config_tree const &tree) {
+	tree.dump(os, 0);
+	return os;
+}
+
+} // namespace QUOR_2_9::config
