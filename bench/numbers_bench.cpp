@@ -1,18 +1,16 @@
-// Numbers from text and back, beside the standard library's routines for the same form.
-// Each pair is first checked to agree on every input that is measured.
+// Numbers from text, beside the standard library's routines for the same form.
 
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <iostream>
 #include <random>
 #include <string>
 #include <vector>
 
-#include <benchmark/benchmark.h>
-
 #include <quor/quor.hpp>
+
+#include "frame/frame.hpp"
 
 namespace {
 
@@ -44,18 +42,12 @@ int with_from_chars(std::string const &text) {
 	return value;
 }
 
-void require_agreement() {
-	for (std::string const &text : texts()) {
-		if (with_library(text) != with_from_chars(text)) {
-			std::cerr << "the routines differ on " << text << '\n';
-			std::abort();
-		}
-	}
+int with_strtol(std::string const &text) {
+	return static_cast<int>(std::strtol(text.c_str(), nullptr, 10));
 }
 
 template <int (*Routine)(std::string const &)>
 void read_int(benchmark::State &state) {
-	require_agreement();
 	for (auto _ : state) {
 		for (std::string const &text : texts()) {
 			benchmark::DoNotOptimize(Routine(text));
@@ -64,7 +56,19 @@ void read_int(benchmark::State &state) {
 	state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * count));
 }
 
-BENCHMARK(read_int<&with_library>)->Name("int from text/library");
-BENCHMARK(read_int<&with_from_chars>)->Name("int from text/std::from_chars");
+void describe() {
+	for (std::string const &text : texts()) {
+		if (with_library(text) != with_from_chars(text) || with_library(text) != with_strtol(text)) {
+			bench::disagree("the number of " + text);
+		}
+	}
+	bench::operation("int from text", bench::library, &read_int<&with_library>);
+	bench::operation("int from text", "std::from_chars", &read_int<&with_from_chars>);
+	bench::operation("int from text", "std::strtol", &read_int<&with_strtol>);
+	bench::limit("int from text", "std::from_chars", 3, 1);
+	bench::limit("int from text", "std::strtol", 1.25);
+}
+
+bench::entry const added(&describe);
 
 } // namespace

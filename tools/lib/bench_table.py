@@ -1,0 +1,188 @@
+"""Writes what benchmark programs measured as tables, and judges it by the limits.
+
+usage: bench_table.py [--compiler TEXT] [--peers TEXT] [--results FILE] JSON...
+
+Each JSON file is the output of one program, named after its area: ratios of medians
+come from its aggregates, limits and figures from its context. In FILE the sections of
+the areas are replaced and the others kept. Fails when a limit is broken.
+"""
+
+import argparse
+import json
+import pathlib
+import platform
+import re
+import sys
+
+LIBRARY = "quor"
+HEAD = """# Benchmark results
+
+Written by `tools/bench`; the programs stand in `bench/`. All competitors of an operation run in
+one process on the same input, in turns whose order is random, and are first checked to give the
+same results. Times are medians of processor time; only the ratios compare from one machine to
+another. A limit is what we hold ourselves to (`tools/bench` fails beyond it), an aim what we
+would like.
+"""
+
+
+def split(text, by="/"):
+    """"operation/competitor" in its two parts; a competitor has no slash."""
+    left, _, right = text.rpartition(by)
+    return left, right
+
+
+class Area:
+    def __init__(self, path):
+        data = json.loads(path.read_text(encoding="utf-8"))
+        self.name = path.stem
+        self.date = data["context"]["date"][:10]
+        self.cores = data["context"]["num_cpus"]
+        self.times = {}  # operation -> competitor -> seconds
+        self.repetitions = 0
+        for run in sorted(data["benchmarks"], key=lambda run: run["family_index"]):
+            if run.get("error_occurred"):
+                raise SystemExit(f"bench: {run['name']}: {run['error_message']}")
+            if run.get("aggregate_name") == "median":
+                operation, competitor = split(run["run_name"])
+                self.times.setdefault(operation, {})[competitor] = seconds(run)
+                self.repetitions = run["repetitions"]
+        self.limits = {}  # operation -> peer -> (limit, aim)
+        self.figures = {}  # figure -> competitor -> number
+        self.bounds = {}  # figure -> number
+        for key, value in data["context"].items():
+            kind, _, name = key.partition(": ")
+            if kind == "limit":
+                operation, peer = split(name)
+                self.limits.setdefault(operation, {})[peer] = tuple(map(float, value.split()))
+            elif kind == "figure":
+                figure, competitor = split(name)
+                self.figures.setdefault(figure, {})[competitor] = float(value)
+            elif kind == "bound":
+                self.bounds[name] = float(value)
+        self.broken = []
+
+    def time_rows(self):
+        for operation, times in self.times.items():
+            own = times.get(LIBRARY)
+            limits = self.limits.get(operation, {})
+            for peer in list(limits) + [name for name in times if name not in limits and name != LIBRARY]:
+                most, aim = limits.get(peer, (0, 0))
+                row = [operation, duration(own), peer, duration(times.get(peer))]
+                if own is None or peer not in times:
+                    yield row + ["", limit_text(most, aim), "not measured"]
+                    continue
+                ratio = own / times[peer]
+                yield row + [f"{ratio:.2f}", limit_text(most, aim), self.judge(f"{operation}, {peer}", ratio, most, aim)]
+
+    def figure_rows(self):
+        for figure, numbers in self.figures.items():
+            own = numbers.get(LIBRARY)
+            most = self.bounds.get(figure)
+            peers = ", ".join(f"{name} {short(number)}" for name, number in numbers.items() if name != LIBRARY)
+            if own is None or most is None:
+                yield [figure, short(own), peers, "" if most is None else short(most), ""]
+            else:
+                yield [figure, short(own), peers, short(most), self.judge(figure, own, most, 0)]
+
+    def judge(self, what, value, most, aim):
+        if most == 0 and aim == 0 and what not in self.bounds:
+            return ""
+        if value > most:
+            self.broken.append(f"{self.name}: {what}: {value:.3g} is more than {most:g}")
+            return "**no**"
+        if aim == 0:
+            return "yes"
+        return "yes, the aim too" if value <= aim else "yes, the aim not yet"
+
+    def section(self, compiler, peers):
+        lines = [f"## {self.name}", ""]
+        lines.append(f"{processor()}, {self.cores} cores, {system()}. {compiler}. {self.date}. "
+                     f"{self.repetitions} repetitions.")
+        if peers:
+            lines.append(f"Peers: {peers}.")
+        lines.append("")
+        lines += table(["operation", LIBRARY, "peer", "its time", f"{LIBRARY} / peer", "limit", "met"], "lrlrrll",
+                       self.time_rows())
+        if self.figures:
+            lines.append("")
+            lines += table(["figure", LIBRARY, "peers", "limit", "met"], "lrlrl", self.figure_rows())
+        return "\n".join(lines) + "\n"
+
+
+def seconds(run):
+    if "items_per_second" in run:
+        return 1 / run["items_per_second"]
+    return run["cpu_time"] * {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}[run["time_unit"]]
+
+
+def duration(value):
+    if value is None:
+        return ""
+    for unit, size in (("s", 1), ("ms", 1e-3), ("µs", 1e-6)):
+        if value >= size:
+            return f"{value / size:.3g} {unit}"
+    return f"{value * 1e9:.3g} ns"
+
+
+def short(value):
+    return "" if value is None else f"{value:.3g}"
+
+
+def limit_text(most, aim):
+    if most == 0:
+        return ""
+    return f"{most:g}" if aim == 0 else f"{most:g}, aim {aim:g}"
+
+
+def table(head, alignment, rows):
+    yield "| " + " | ".join(head) + " |"
+    yield "|" + "|".join("---:" if one == "r" else "---" for one in alignment) + "|"
+    for row in rows:
+        yield "| " + " | ".join(row) + " |"
+
+
+def processor():
+    try:
+        match = re.search(r"^model name\s*:\s*(.*)$", pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8"), re.M)
+    except OSError:
+        match = None
+    return match.group(1) if match else platform.machine()
+
+
+def system():
+    try:
+        name = platform.freedesktop_os_release()["PRETTY_NAME"]
+    except OSError:
+        name = platform.system()
+    return f"{name}, {platform.machine()}"
+
+
+def write(path, sections):
+    """Replaces sections of the file; those of other areas stay."""
+    kept = {}
+    if path.is_file():
+        for part in re.split(r"(?m)^(?=## )", path.read_text(encoding="utf-8"))[1:]:
+            kept[part.splitlines()[0][3:]] = part.rstrip("\n") + "\n"
+    kept.update(sections)
+    path.write_text("\n".join([HEAD] + [kept[name] for name in sorted(kept)]), encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--compiler", default="")
+    parser.add_argument("--peers", default="")
+    parser.add_argument("--results", type=pathlib.Path)
+    parser.add_argument("json", nargs="+", type=pathlib.Path)
+    arguments = parser.parse_args()
+    areas = [Area(path) for path in arguments.json]
+    sections = {area.name: area.section(arguments.compiler, arguments.peers) for area in areas}
+    print("\n".join(sections.values()))
+    if arguments.results:
+        write(arguments.results, sections)
+    broken = [text for area in areas for text in area.broken]
+    for text in broken:
+        print(f"bench: limit broken: {text}", file=sys.stderr)
+    return 1 if broken else 0
+
+
+sys.exit(main())
