@@ -8,6 +8,7 @@
 #include "platform/file_changes.hpp"
 #include "platform/file_status.hpp"
 #include "platform/file_stream.hpp"
+#include "platform/program_path.hpp"
 
 namespace quor_test {
 
@@ -123,6 +124,10 @@ bool make_directory(types::wide_string const &path) {
 	}
 	disk().files[path] = scripted_file::listing({}, disk().files.size() + 1000);
 	return true;
+}
+
+bool slash_separates_program_path() noexcept {
+	return disk().slash_separates;
 }
 
 std::vector<types::wide_string> directory_entries(types::wide_string const &directory) {

@@ -60,6 +60,7 @@ struct scripted_disk {
 	std::vector<wide_string> created; // directories that were asked for, in order
 	std::vector<wide_string> moved;   // pairs of old and new path
 	std::string debug_lines;
+	bool slash_separates = true; // whether program paths are cut at "/" too
 };
 
 // The one disk that the platform shows; and the same after it was emptied.
