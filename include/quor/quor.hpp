@@ -12,8 +12,11 @@
 
 #include <quor/config/base_config_item.hpp>
 #include <quor/config/character_classes.hpp>
+#include <quor/config/commandline_item.hpp>
 #include <quor/config/config_token.hpp>
 #include <quor/config/config_tree.hpp>
+#include <quor/config/enviroment_item.hpp>
+#include <quor/config/user_item.hpp>
 #include <quor/debug/assert_callback.hpp>
 #include <quor/debug/invalid_parameter.hpp>
 #include <quor/debug/output.hpp>
