@@ -4,6 +4,7 @@
 // Command lines and environments as a program gets them, and what a configuration source
 // holds as a list that can be compared and printed.
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <ostream>
@@ -27,7 +28,7 @@ public:
 	explicit string_block(std::vector<std::string> const &texts) {
 		for (std::string const &text : texts) {
 			m_texts.push_back(std::make_unique<char[]>(text.size() + 1));
-			text.copy(m_texts.back().get(), text.size());
+			std::copy(text.begin(), text.end(), m_texts.back().get());
 			m_pointers.push_back(m_texts.back().get());
 		}
 		m_pointers.push_back(nullptr);
