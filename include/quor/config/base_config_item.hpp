@@ -34,6 +34,10 @@
 
 namespace QUOR_2_9::config {
 
+namespace detail {
+struct item_access;
+}
+
 /// One source of configuration values: a name, a tree of keys, and how it is loaded.
 ///
 /// What keys and flags are is told at `config_tree`. Items are held by `rc_pointer`, so they
@@ -139,6 +143,9 @@ protected:
 	strings::ustring8 item_id;
 	/// The keys of this source. @since 2.9
 	config_tree item_tree;
+
+private:
+	friend struct detail::item_access;
 };
 
 /// The same as `item.dump(os)`; returns the stream. @since 2.9
