@@ -13,6 +13,8 @@
 #include <quor/config/base_config_item.hpp>
 #include <quor/config/character_classes.hpp>
 #include <quor/config/commandline_item.hpp>
+#include <quor/config/config_dispatch.hpp>
+#include <quor/config/config_manager.hpp>
 #include <quor/config/config_token.hpp>
 #include <quor/config/config_tree.hpp>
 #include <quor/config/enviroment_item.hpp>
