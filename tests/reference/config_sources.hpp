@@ -1,76 +1,19 @@
 #ifndef QUOR_TESTS_REFERENCE_CONFIG_SOURCES_HPP
 #define QUOR_TESTS_REFERENCE_CONFIG_SOURCES_HPP
 
-// What the configuration makes of command lines and environments, once more: a tree of
-// plain maps, filled argument by argument from lists of tokens, with nothing clever.
+// What the configuration makes of command lines and environments, once more: a tree
+// filled argument by argument from lists of tokens, with nothing clever.
 
 #include <cstddef>
-#include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "reference/config_node.hpp"
 #include "reference/config_tokens.hpp"
 
 namespace quor_reference {
-
-// One line of a listing; no value stands for nil.
-struct config_entry {
-	std::string name;
-	unsigned int flags = 0;
-	std::optional<std::string> value;
-
-	bool operator==(config_entry const &other) const {
-		return name == other.name && flags == other.flags && value == other.value;
-	}
-};
-
-class config_node {
-public:
-	void set(std::string const &key, std::optional<std::string> const &value, unsigned int flags) {
-		std::size_t const separator = key.find_first_of("./\\");
-		std::string const tail = separator == std::string::npos ? "" : key.substr(separator + 1);
-		config_node &child = m_children[lower(key.substr(0, separator))];
-		if (tail.empty()) {
-			child.m_flags = flags | 1;
-			child.m_value = value;
-		} else {
-			child.set(tail, value, flags);
-		}
-	}
-
-	void set_array(std::string const &key, std::vector<std::string> const &values) {
-		set(key, std::nullopt, 2);
-		for (std::size_t i = 0; i != values.size(); ++i) {
-			set(key + "." + std::to_string(i), values[i], 0);
-		}
-	}
-
-	void list(std::vector<config_entry> &out, std::string const &prefix = "") const {
-		for (auto const &[name, child] : m_children) {
-			std::string const full = prefix.empty() ? name : prefix + "." + name;
-			out.push_back({full, child.m_flags, child.m_value});
-			child.list(out, full);
-		}
-	}
-
-private:
-	static std::string lower(std::string text) {
-		std::string const upper = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-		for (char &c : text) {
-			std::size_t const index = upper.find(c);
-			if (index != std::string::npos) {
-				c = "abcdefghijklmnopqrstuvwxyz"[index];
-			}
-		}
-		return text;
-	}
-
-	std::map<std::string, config_node> m_children;
-	unsigned int m_flags = 0;
-	std::optional<std::string> m_value;
-};
 
 // Key and value of a text such as "key = value".
 inline std::pair<std::string, std::string> config_assignment(std::string const &text) {

@@ -14,6 +14,8 @@ namespace quor_reference {
 struct config_piece {
 	std::string kind;                // "letters", "digits", "string", "blanks", "line end", "mark" or "other"
 	std::optional<std::string> text; // nothing for blanks
+	std::size_t begin = 0;
+	std::size_t end = 0; // behind a string that isn't closed one or two beyond the text's end
 
 	bool is(std::string const &expected_kind, std::string const &expected_text) const {
 		return kind == expected_kind && text == expected_text;
@@ -28,7 +30,10 @@ public:
 	static std::vector<config_piece> of(std::string const &text, std::size_t from) {
 		config_pieces cutter(text, from);
 		while (cutter.m_at < cutter.m_text.size()) {
+			std::size_t const begin = cutter.m_at;
 			cutter.cut();
+			cutter.m_pieces.back().begin = begin;
+			cutter.m_pieces.back().end = cutter.m_at;
 		}
 		return cutter.m_pieces;
 	}
@@ -51,13 +56,13 @@ private:
 		return result;
 	}
 
-	void add(std::string const &kind, std::string const &text) { m_pieces.push_back({kind, text}); }
+	void add(std::string const &kind, std::string const &text) { m_pieces.push_back({kind, text, 0, 0}); }
 
 	void cut() {
 		char const here = at(m_at);
 		if (here == ' ') {
 			run([](char c) { return c == ' '; });
-			m_pieces.push_back({"blanks", std::nullopt});
+			m_pieces.push_back({"blanks", std::nullopt, 0, 0});
 		} else if (is_digit(here)) {
 			add("digits", run(is_digit));
 		} else if (is_letter(here)) {
