@@ -3,10 +3,8 @@
 #include <ostream>
 
 #include <quor/types/nil.hpp>
-#include <quor/types/widths.hpp>
 
-#include "config/decimal_name.hpp"
-#include "config/key_path.hpp"
+#include "config/array_elements.hpp"
 #include "config/token_scanner.hpp"
 
 namespace QUOR_2_9::config {
@@ -16,19 +14,6 @@ using strings::ustring8;
 using types::variant;
 
 namespace {
-
-/// Flags word and value of an array's element: with a list of flags, elements that it has
-/// no entry for are numbers.
-config_tree::node_value element_of(varg_list const &values, varg_list const &flags, types::uint32 index) {
-	variant const &value = values[index].value();
-	if (flags.empty()) {
-		return {0U, value};
-	}
-	if (index < flags.count()) {
-		return {static_cast<unsigned int>(flags[index].value().as_uint32()), value};
-	}
-	return {0U, variant(types::ulong_t(value.as_uint32()))};
-}
 
 bool is_dropped(config_token::tok_types type) noexcept {
 	return type == config_token::T_SPACE || type == config_token::T_TABCHAR;
@@ -86,20 +71,7 @@ void base_config_item::set(ustring8 const &assignment, unsigned int flags) {
 
 void base_config_item::set_array(ustring8 const &key, varg_list const &values, varg_list const &flags) {
 	item_tree.set_node(key, types::nil, config_tree::flag_array);
-	if (values.empty()) {
-		return;
-	}
-	// The first element makes the node that all of them lie in: for keys that end in a
-	// separator it is another one than the head.
-	ustring8 const parent_key = key + ".";
-	config_tree::node_value const first = element_of(values, flags, 0);
-	item_tree.set_node(parent_key + "0", first.second, first.first);
-	config_tree &parent = *detail::find_node(item_tree, parent_key);
-	for (types::uint32 i = 1; i != values.count(); ++i) {
-		config_tree::node_value const element = element_of(values, flags, i);
-		parent.set_node(ustring8(detail::decimal_name(static_cast<unsigned int>(i)).text()), element.second,
-		                element.first);
-	}
+	detail::set_elements(item_tree, key, values, flags);
 }
 
 config_tree::node_value const *base_config_item::get_value(ustring8 const &key) const {
