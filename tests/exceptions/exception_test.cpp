@@ -23,7 +23,7 @@ TEST(exception, record_has_516_bytes_and_is_copied_whole) {
 	static_assert(!std::is_polymorphic_v<state>);
 	static_assert(!std::is_default_constructible_v<state>);
 	state const first(7, "file.cpp", "ns::function");
-	state const copy(first);
+	state const copy(first); // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
 	EXPECT_EQ(copy.line(), 7U);
 	EXPECT_STREQ(copy.file(), "file.cpp");
 	EXPECT_STREQ(copy.function(), "ns::function");

@@ -84,7 +84,8 @@ TEST_F(catalog_set, best_language_wins_whatever_the_order_in_the_file) {
 		std::string trace;
 		for (auto const language : order) {
 			content += catalog_of_subsets(language);
-			trace += languages[language] + " ";
+			trace += languages[language];
+			trace += ' ';
 		}
 		write("app.xmc", content);
 		for (auto const &[request, accepted] : requests) {

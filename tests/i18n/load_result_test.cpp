@@ -106,7 +106,7 @@ TEST(load_result, copies_and_assignments_are_values) {
 TEST(load_result, stream_takes_constants_and_temporaries) {
 	std::ostringstream stream;
 	result_type changing(message_catalogs::file_not_found, "f");
-	result_type const constant(changing);
+	result_type const constant(message_catalogs::file_not_found, "f");
 	stream << changing << '|' << constant << '|' << result_type(message_catalogs::no_error, "");
 	EXPECT_EQ(stream.str(), constant.message() + "|" + constant.message() + "|" + prefix + "No Error");
 }

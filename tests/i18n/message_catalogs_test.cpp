@@ -290,8 +290,9 @@ TEST_F(message_catalogs_queries, load_of_paths_in_braces_takes_each_in_order) {
 	EXPECT_TRUE(catalogs.load({app, more}, "en") == message_catalogs::no_error);
 	EXPECT_EQ(catalogs.size(), 3U);
 	catalogs.erase();
-	EXPECT_TRUE(catalogs.load({app.c_str(), more.c_str(), "missing"}, "en", "more") ==
-	            message_catalogs::entity_not_found);
+	char const *const app_path = app.c_str();
+	char const *const more_path = more.c_str();
+	EXPECT_TRUE(catalogs.load({app_path, more_path, "missing"}, "en", "more") == message_catalogs::entity_not_found);
 	EXPECT_EQ(catalogs.size(), 1U);
 	EXPECT_TRUE(catalogs.load({"missing"}, "en") == message_catalogs::entity_not_found);
 }

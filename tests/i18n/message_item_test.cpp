@@ -61,7 +61,7 @@ TEST(message_item, construction_keeps_text_and_type) {
 
 TEST(message_item, copies_and_assignments_take_both_fields) {
 	message_item const source(field("n|base|hex"), message_item::type_int);
-	message_item copy(source);
+	message_item const copy(source); // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
 	EXPECT_EQ(source.data(), copy.data());
 	EXPECT_EQ(source.type(), copy.type());
 	message_item assigned("text");

@@ -34,7 +34,8 @@ TYPED_TEST_SUITE(ustring_of, every_text, );
 
 TYPED_TEST(ustring_of, layout_is_that_of_the_standard_string) {
 	using base = typename TypeParam::base_type;
-	static_assert(sizeof(TypeParam) == sizeof(base) && alignof(TypeParam) == alignof(base));
+	static_assert(sizeof(TypeParam) == sizeof(base));
+	static_assert(alignof(TypeParam) == alignof(base));
 	static_assert(std::is_base_of_v<base, TypeParam> && !std::is_polymorphic_v<TypeParam>);
 	static_assert(std::is_nothrow_move_constructible_v<TypeParam> && std::is_nothrow_move_assignable_v<TypeParam>);
 	static_assert(std::is_nothrow_default_constructible_v<TypeParam>);
@@ -211,7 +212,7 @@ TEST(ustring8, exchanges_bytes_with_std_string) {
 	std::string plain("caf\xC3\xA9\0!", 7);
 	ustring8 const text(plain);
 	EXPECT_EQ(text.size(), 7U);
-	std::string const back = text;
+	std::string const back = text; // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
 	EXPECT_EQ(back, plain);
 	plain = text;
 	EXPECT_EQ(plain.size(), 7U);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -50,9 +51,9 @@ TEST(alloc_detection_ability, create_dynamic_sets_the_flag_after_the_constructor
 
 TEST(alloc_detection_ability, create_dynamic_moves_its_arguments_on) {
 	std::string text(100, 'x');
-	char const *const units = text.data();
+	auto const address = reinterpret_cast<std::uintptr_t>(text.data());
 	std::unique_ptr<widget> const made(create_dynamic<widget>(std::move(text)));
-	EXPECT_EQ(static_cast<void const *>(made->text().data()), static_cast<void const *>(units));
+	EXPECT_EQ(reinterpret_cast<std::uintptr_t>(made->text().data()), address);
 }
 
 TEST(alloc_detection_ability, create_dynamic_lets_the_constructors_exception_through) {
