@@ -18,6 +18,7 @@
 #include <quor/config/config_token.hpp>
 #include <quor/config/config_tree.hpp>
 #include <quor/config/enviroment_item.hpp>
+#include <quor/config/file_item.hpp>
 #include <quor/config/user_item.hpp>
 #include <quor/debug/assert_callback.hpp>
 #include <quor/debug/invalid_parameter.hpp>

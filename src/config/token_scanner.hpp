@@ -47,9 +47,11 @@ constexpr token_start token_start_of(char unit) noexcept {
 	return token_starts[static_cast<unsigned char>(unit)];
 }
 
-/// Whether a text is so long that positions in it don't fit their type.
+/// From this size on, positions in a text don't fit their type.
+inline constexpr unsigned int too_long_to_scan = 0xFFFFFFFEU;
+
 inline bool is_too_long_to_scan(strings::ustring8 const &text) noexcept {
-	return text.size() >= 0xFFFFFFFEU;
+	return text.size() >= too_long_to_scan;
 }
 
 /// The token at `pos`, which is moved behind it. At or behind the end it is `T_END` and `pos`

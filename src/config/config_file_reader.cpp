@@ -1,0 +1,273 @@
+#include "config/config_file_reader.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include <quor/debug/invalid_parameter.hpp>
+#include <quor/generic/abilities/alloc_detection_ability.hpp>
+#include <quor/generic/argument.hpp>
+#include <quor/memory/pointers/rc_pointer.hpp>
+#include <quor/types/nil.hpp>
+#include <quor/types/variant.hpp>
+
+#include "config/array_elements.hpp"
+#include "config/key_path.hpp"
+
+namespace QUOR_2_9::config::detail {
+namespace {
+
+using strings::ustring8;
+using node_pointer = memory::pointers::rc_pointer<config_tree>;
+
+/// Where a byte is text that nothing around it can change. Runs of such bytes are taken
+/// at once; all others go through the scanner.
+enum plain_in : unsigned char {
+	plain_in_key = 1,
+	plain_in_section = 2,
+	plain_in_value = 4,
+	plain_in_array = 8,
+	plain_in_comment = 16,
+};
+
+constexpr std::array<unsigned char, 256> make_plain_bytes() {
+	struct exception {
+		std::string_view bytes;
+		unsigned int not_plain_in;
+	};
+	// Operators end in "=" at most, so in values they matter only where they take part in
+	// what begins a comment.
+	constexpr exception exceptions[] = {
+	    {"\n\r\"", plain_in_key | plain_in_section | plain_in_value | plain_in_array | plain_in_comment},
+	    {" \t*/", plain_in_key | plain_in_section | plain_in_value | plain_in_array},
+	    {"=<>:+-", plain_in_key | plain_in_section},
+	    {"]", plain_in_section},
+	    {"#", plain_in_value | plain_in_array},
+	    {",", plain_in_array},
+	};
+	std::array<unsigned char, 256> result = {};
+	for (unsigned char &places : result) {
+		places = 0xFF;
+	}
+	for (exception const &row : exceptions) {
+		for (char const byte : row.bytes) {
+			result[static_cast<unsigned char>(byte)] &= static_cast<unsigned char>(~row.not_plain_in);
+		}
+	}
+	return result;
+}
+
+constexpr std::array<unsigned char, 256> plain_bytes = make_plain_bytes();
+
+/// Takes the longest run of plain bytes.
+template <plain_in Place>
+std::string_view plain_run(ustring8 const &text, unsigned int &pos) noexcept {
+	char const *const begin = text.data() + std::min<std::size_t>(pos, text.size());
+	char const *const end = text.data() + text.size();
+	char const *at = begin;
+	while (at != end && (plain_bytes[static_cast<unsigned char>(*at)] & Place) != 0) {
+		++at;
+	}
+	auto const length = static_cast<std::size_t>(at - begin);
+	pos += static_cast<unsigned int>(length);
+	return {begin, length};
+}
+
+bool is_comment_start(config_token::tok_types type) noexcept {
+	return type == config_token::T_POUND || type == config_token::T_FSFS;
+}
+
+bool is_blank(config_token::tok_types type) noexcept {
+	return type == config_token::T_SPACE || type == config_token::T_TABCHAR;
+}
+
+bool is_blank_or_line_end(config_token::tok_types type) noexcept {
+	return is_blank(type) || type == config_token::T_NEWLINE;
+}
+
+/// The node at a key; those that are missing on the way are made as passage nodes.
+config_tree &make_node(config_tree &tree, std::string_view key) {
+	key_path path(key);
+	config_tree *node = &tree;
+	do {
+		std::string_view const name = path.next();
+		config_tree *child = find_child(*node, name);
+		if (child == nullptr) {
+			node_pointer const created(generic::abilities::create_dynamic<config_tree>());
+			node->children.insert_or_assign(ustring8(name), created);
+			child = created.get();
+		}
+		node = child;
+	} while (!path.at_end());
+	return *node;
+}
+
+bool is_comma(scanned_token const &token) noexcept {
+	return token.type == config_token::T_NON_ALPHA_NUM && token.text == ",";
+}
+
+} // namespace
+
+void config_file_reader::read() {
+	if (is_too_long_to_scan(m_text)) {
+		return;
+	}
+	while (m_pos < m_text.size()) {
+		scanned_token const first = next_statement();
+		if (first.type == config_token::T_SBRACKET) {
+			read_section();
+			continue;
+		}
+		read_key(first);
+		if (m_key.empty()) {
+			continue;
+		}
+		if (take_array_suffix()) {
+			read_array();
+		} else {
+			read_value();
+		}
+	}
+}
+
+void config_file_reader::skip_comment(ustring8 const &text, unsigned int &pos) noexcept {
+	for (;;) {
+		plain_run<plain_in_comment>(text, pos);
+		unsigned int const before = pos;
+		scanned_token const token = scan_token(text, pos);
+		if (token.type == config_token::T_NEWLINE || token.type == config_token::T_END) {
+			pos = before;
+			return;
+		}
+	}
+}
+
+/// The first token of the next statement, or the end.
+scanned_token config_file_reader::next_statement() noexcept {
+	for (;;) {
+		scanned_token const token = scan_token(m_text, m_pos);
+		if (is_comment_start(token.type)) {
+			skip_comment(m_text, m_pos);
+		} else if (!is_blank_or_line_end(token.type)) {
+			return token;
+		}
+	}
+}
+
+void config_file_reader::read_section() {
+	m_prefix.clear();
+	m_section = nullptr;
+	for (;;) {
+		m_prefix.append(plain_run<plain_in_section>(m_text, m_pos));
+		scanned_token const token = scan_token(m_text, m_pos);
+		if (token.type == config_token::T_EBRACKET || token.type == config_token::T_END) {
+			break;
+		}
+		if (!is_blank_or_line_end(token.type)) {
+			m_prefix.append(token.text);
+		}
+	}
+	if (!m_prefix.empty()) {
+		m_prefix.append(".");
+	}
+}
+
+void config_file_reader::read_key(scanned_token token) {
+	m_key.clear();
+	while (token.type != config_token::T_EQ && token.type != config_token::T_END) {
+		if (!is_blank_or_line_end(token.type)) {
+			m_key.append(token.text);
+		}
+		m_key.append(plain_run<plain_in_key>(m_text, m_pos));
+		token = scan_token(m_text, m_pos);
+	}
+}
+
+/// Whether the key, which isn't empty, names an array; takes the two bytes that say so.
+bool config_file_reader::take_array_suffix() {
+	if (m_key.size() == 1) {
+		debug::invalid_parameter("string subscript out of range", "config\\file_item", __LINE__);
+		return false;
+	}
+	if (m_key[m_key.size() - 2] != '[' || m_key.back() != ']') {
+		return false;
+	}
+	m_key.resize(m_key.size() - 2);
+	return true;
+}
+
+void config_file_reader::read_value() {
+	m_value.clear();
+	for (;;) {
+		m_value.append(plain_run<plain_in_value>(m_text, m_pos));
+		scanned_token const token = scan_token(m_text, m_pos);
+		if (token.type == config_token::T_NEWLINE || token.type == config_token::T_END) {
+			break;
+		}
+		if (is_comment_start(token.type)) {
+			skip_comment(m_text, m_pos);
+		} else if (!is_blank(token.type)) {
+			m_value.append(token.text);
+		}
+	}
+	if (!m_value.empty()) {
+		types::variant const value(m_value);
+		section().set_node(m_key, value, 0);
+	}
+}
+
+void config_file_reader::read_array() {
+	m_value.clear();
+	bool behind_comma = false;
+	for (;;) {
+		std::string_view const run = plain_run<plain_in_array>(m_text, m_pos);
+		behind_comma = behind_comma && run.empty();
+		m_value.append(run);
+		scanned_token const token = scan_token(m_text, m_pos);
+		if (token.type == config_token::T_END || (token.type == config_token::T_NEWLINE && !behind_comma)) {
+			break;
+		}
+		if (is_comment_start(token.type)) {
+			skip_comment(m_text, m_pos);
+		} else if (is_comma(token)) {
+			push_element();
+			behind_comma = true;
+		} else if (!is_blank_or_line_end(token.type)) {
+			m_value.append(token.text);
+			behind_comma = false;
+		}
+	}
+	if (!m_value.empty()) {
+		push_element();
+		store_array();
+		m_elements.clear();
+	}
+}
+
+void config_file_reader::push_element() {
+	m_elements.push_back(generic::argument(types::variant(m_value)));
+	m_value.clear();
+}
+
+/// Stores the elements as an array under the key.
+void config_file_reader::store_array() {
+	config_tree &node = section();
+	if (m_key.empty() && !m_prefix.empty()) {
+		// The whole key is the section's name and a separator, which leads to its own node.
+		node.node_data = {config_tree::flag_set | config_tree::flag_array, types::variant()};
+	} else {
+		node.set_node(m_key, types::nil, config_tree::flag_array);
+	}
+	set_elements(node, m_key, m_elements, generic::varg_list());
+}
+
+/// The node that the prefix leads to, made where it is missing.
+config_tree &config_file_reader::section() {
+	if (m_section == nullptr) {
+		m_section = m_prefix.empty() ? &m_tree : &make_node(m_tree, m_prefix);
+	}
+	return *m_section;
+}
+
+} // namespace QUOR_2_9::config::detail
