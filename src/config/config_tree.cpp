@@ -6,6 +6,7 @@
 
 #include "config/decimal_name.hpp"
 #include "config/key_path.hpp"
+#include "support/ascii.hpp"
 
 namespace QUOR_2_9::config {
 namespace {

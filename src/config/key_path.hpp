@@ -1,15 +1,18 @@
 #ifndef QUOR_SRC_CONFIG_KEY_PATH_HPP
 #define QUOR_SRC_CONFIG_KEY_PATH_HPP
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include <quor/config/character_classes.hpp>
 #include <quor/config/config_tree.hpp>
 #include <quor/strings/ustring.hpp>
 
-#include "support/ascii.hpp"
+#include "config/key_word.hpp"
 
 namespace QUOR_2_9::config::detail {
 
@@ -20,13 +23,17 @@ public:
 	explicit key_path(std::string_view key) : m_size(key.size()) {
 		char *units = m_small.data();
 		if (m_size > m_small.size()) {
-			m_large.resize(m_size);
+			m_large.resize(m_size + key_word_size);
 			units = m_large.data();
 		}
-		for (std::size_t i = 0; i != m_size; ++i) {
-			units[i] = support::to_lower(key[i]);
-		}
 		m_units = units;
+		std::size_t pos = 0;
+		for (; m_size - pos >= key_word_size; pos += key_word_size) {
+			add(load_word(key.data() + pos), pos, units);
+		}
+		if (pos != m_size) {
+			add(load_rest(key.data(), pos, m_size), pos, units);
+		}
 	}
 	key_path(key_path const &) = delete;
 	key_path &operator=(key_path const &) = delete;
@@ -34,10 +41,7 @@ public:
 	/// Takes the next component off the front.
 	std::string_view next() noexcept {
 		std::size_t const begin = m_pos;
-		std::size_t end = begin;
-		while (end != m_size && !is_key_separator(m_units[end])) {
-			++end;
-		}
+		std::size_t const end = end_of_component();
 		m_pos = end < m_size ? end + 1 : end;
 		return {m_units + begin, end - begin};
 	}
@@ -46,10 +50,35 @@ public:
 	bool at_end() const noexcept { return m_pos == m_size; }
 
 private:
-	// Not initialised: filled as far as the key reaches.
+	static constexpr std::size_t marked_size = 64;
+
+	/// Writes a word in lower case and marks its separators.
+	void add(key_word word, std::size_t pos, char *units) noexcept {
+		store_word(lower_word(word), units + pos);
+		if (pos < marked_size) {
+			m_separators |= separators(word) << pos;
+		}
+	}
+
+	std::size_t end_of_component() const noexcept {
+		if (m_pos < marked_size) {
+			if (std::uint64_t const left = m_separators >> m_pos; left != 0) {
+				return m_pos + static_cast<std::size_t>(std::countr_zero(left));
+			}
+		}
+		std::size_t end = std::max(m_pos, std::min(m_size, marked_size));
+		while (end != m_size && !is_key_separator(m_units[end])) {
+			++end;
+		}
+		return end;
+	}
+
+	// Not initialised: filled as far as the key reaches, and up to seven bytes further.
 	std::array<char, 256> m_small;
 	strings::ustring8 m_large;
 	char const *m_units = nullptr;
+	/// A bit for each separator among the first bytes.
+	std::uint64_t m_separators = 0;
 	std::size_t m_size;
 	std::size_t m_pos = 0;
 };

@@ -14,6 +14,7 @@
 ///
 /// @since 2.9
 
+#include <cstddef>
 #include <iosfwd>
 #include <map>
 #include <string_view>
@@ -26,6 +27,7 @@
 #include <quor/memory/pointers/rc_pointer.hpp>
 #include <quor/strings/ustring.hpp>
 #include <quor/types/variant.hpp>
+#include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::config {
 
@@ -59,7 +61,27 @@ public:
 		/// Lets `find` take a part of a text. @since 2.9
 		using is_transparent = void;
 		/// Whether `left` stands before `right`. @since 2.9
-		bool operator()(std::string_view left, std::string_view right) const noexcept { return left < right; }
+		bool operator()(std::string_view left, std::string_view right) const noexcept {
+			if (left.size() >= head_size && right.size() >= head_size) {
+				// Most names differ early.
+				types::uint32 const left_head = head_of(left);
+				types::uint32 const right_head = head_of(right);
+				if (left_head != right_head) {
+					return left_head < right_head;
+				}
+			}
+			return left < right;
+		}
+
+	private:
+		static constexpr std::size_t head_size = 4;
+
+		/// The first bytes as a number that is ordered as they are.
+		static types::uint32 head_of(std::string_view name) noexcept {
+			return byte_of(name[0]) << 24 | byte_of(name[1]) << 16 | byte_of(name[2]) << 8 | byte_of(name[3]);
+		}
+
+		static types::uint32 byte_of(char unit) noexcept { return static_cast<unsigned char>(unit); }
 	};
 
 	/// A flags word and a value. @since 2.9
