@@ -42,8 +42,8 @@ struct item_access;
 ///
 /// What keys and flags are is told at `config_tree`. Items are held by `rc_pointer`, so they
 /// are made by `create_dynamic` or `clone`. The order of the virtual functions is part of
-/// the binary interface. Thread-safety: one thread at a time; the reference count alone is
-/// atomic.
+/// the binary interface. Thread-safety: many readers or one writer; the reference count is
+/// atomic, so pointers to an item may be copied and destroyed by several threads at once.
 /// @since 2.9
 class QUOR_API base_config_item : public generic::abilities::clone_ability,
                                   public generic::abilities::reference_count_pointer_ability<base_config_item> {
