@@ -19,6 +19,8 @@
 #include <quor/config/config_tree.hpp>
 #include <quor/config/enviroment_item.hpp>
 #include <quor/config/file_item.hpp>
+#include <quor/config/module_config_dispatch.hpp>
+#include <quor/config/std_config_dispatch.hpp>
 #include <quor/config/user_item.hpp>
 #include <quor/debug/assert_callback.hpp>
 #include <quor/debug/invalid_parameter.hpp>

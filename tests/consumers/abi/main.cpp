@@ -70,6 +70,23 @@ void check_callable_slots() {
 	check("slot of the call in functor::function_type_interface", 4, slot_of(&callable::operator()));
 }
 
+void check_config_slots() {
+	using item = quor::config::base_config_item;
+	using items = item::item_list;
+	using dispatch = quor::config::config_dispatch;
+	check("slot of config::base_config_item::load()", 2, slot_of<bool (item::*)()>(&item::load));
+	check("slot of config::base_config_item::load(list)", 3, slot_of<bool (item::*)(items const &)>(&item::load));
+	check("slot of config::base_config_item::save()", 4, slot_of<bool (item::*)()>(&item::save));
+	check("slot of config::base_config_item::save(list)", 5, slot_of<bool (item::*)(items const &)>(&item::save));
+	check("slot of config::base_config_item::unload", 6, slot_of(&item::unload));
+	check("slot of config::base_config_item::clone", 7, slot_of(&item::clone));
+	check("slot of config::config_dispatch::setup", 2, slot_of(&dispatch::setup));
+	check("slot of config::config_dispatch::load", 3, slot_of(&dispatch::load));
+	check("slot of config::config_dispatch::unload", 4, slot_of(&dispatch::unload));
+	check("slot of config::config_dispatch::save", 5, slot_of(&dispatch::save));
+	check("slot of config::config_dispatch::clone", 6, slot_of(&dispatch::clone));
+}
+
 } // namespace
 
 int main() {
@@ -86,5 +103,6 @@ int main() {
 	      sizeof(quor::exceptions::overflow_error));
 	check_variant_slots();
 	check_callable_slots();
+	check_config_slots();
 	return failures;
 }
