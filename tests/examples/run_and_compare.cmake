@@ -1,15 +1,34 @@
 # Runs a program and holds what it does against what is expected:
 #
 #   cmake -DPROGRAM=... -DARGUMENTS="a|b|c" -DSTATUS=0 [-DOUTPUT=file] [-DERRORS=file]
-#         -DWORK=dir -P run_and_compare.cmake
+#         [-DENVIRONMENT="A=b|C=d"] [-DFILES="a|b"] -DWORK=dir -P run_and_compare.cmake
 #
 # Arguments are separated by "|". OUTPUT and ERRORS name files with the expected texts;
 # without one the program must write nothing there. It runs in the current directory.
+# With ENVIRONMENT, which may be empty, the program gets this environment and no other, and
+# runs in a directory that holds nothing but copies of the FILES; then the texts are
+# compared byte by byte, else but for the line ends.
 # With QUOR_UPDATE_EXPECTED in the environment the expected files are written anew.
 
 string(REPLACE "|" ";" arguments "${ARGUMENTS}")
 file(MAKE_DIRECTORY "${WORK}")
-execute_process(COMMAND ${LAUNCHER} "${PROGRAM}" ${arguments}
+if(DEFINED ENVIRONMENT)
+  string(REPLACE "|" ";" environment "${ENVIRONMENT}")
+  string(REPLACE "|" ";" files "${FILES}")
+  set(place "${WORK}/place")
+  file(REMOVE_RECURSE "${place}")
+  file(MAKE_DIRECTORY "${place}")
+  foreach(file IN LISTS files)
+    file(COPY "${file}" DESTINATION "${place}")
+  endforeach()
+  set(launcher env -i ${environment})
+  set(line_ends "")
+else()
+  set(place .)
+  set(launcher ${LAUNCHER})
+  set(line_ends --ignore-eol)
+endif()
+execute_process(COMMAND ${launcher} "${PROGRAM}" ${arguments} WORKING_DIRECTORY "${place}"
   RESULT_VARIABLE status OUTPUT_FILE "${WORK}/output.txt" ERROR_FILE "${WORK}/errors.txt")
 
 set(failed FALSE)
@@ -26,7 +45,7 @@ function(compare what file expected)
     file(WRITE "${WORK}/nothing.txt" "")
     set(expected "${WORK}/nothing.txt")
   endif()
-  execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files --ignore-eol "${file}" "${expected}" RESULT_VARIABLE differs
+  execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${line_ends} "${file}" "${expected}" RESULT_VARIABLE differs
     ERROR_QUIET)
   if(differs)
     message(SEND_ERROR "the ${what} (${file}) differs from ${expected}:")
