@@ -6,6 +6,7 @@ block a comment may say more:
 
   <!-- file: NAME -->   the block is written to NAME, which the programs find beside them
   <!-- prints -->       the block is what the program before it prints
+  <!-- same as: PATH -->  the block is the text of this file of the source tree
   <!-- not compiled --> the block is left alone
 
 usage: snippets.py COMPILER INCLUDE-DIRECTORY LIBRARY WORK-DIRECTORY FILE...
@@ -28,6 +29,7 @@ class Guide:
     def __init__(self, path):
         self.path = path
         self.files = []
+        self.copies = []
         self.programs = []
         self.pieces = []
         text = path.read_text(encoding="utf-8")
@@ -38,6 +40,8 @@ class Guide:
     def add(self, note, language, text, line):
         if note.startswith("file: "):
             self.files.append((note[len("file: "):], text))
+        elif note.startswith("same as: "):
+            self.copies.append((note[len("same as: "):], text))
         elif note == "prints":
             self.programs[-1][2] = text
         elif note == "not compiled" or language != "cpp":
@@ -86,6 +90,10 @@ def main(arguments):
             target = folder / name
             target.parent.mkdir(parents=True, exist_ok=True)
             target.write_text(text, encoding="utf-8")
+        for name, text in guide.copies:
+            if (pathlib.Path(include).parent / name).read_text(encoding="utf-8") != text:
+                failures += 1
+                print(f"{path} shows another text than {name} holds")
         for name, text, expected in guide.sources():
             programs += 1
             source, program = folder / (name + ".cpp"), folder / name
