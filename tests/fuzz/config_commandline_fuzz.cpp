@@ -80,7 +80,7 @@ void run_environment(std::vector<std::string> const &texts) {
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const *data, std::size_t size) {
 	// The reference goes down and up its tree one component at a time.
-	constexpr std::size_t enough = 4096;
+	constexpr std::size_t enough = 1024;
 	std::vector<std::string> texts(1);
 	for (std::size_t i = 0; i != size && i != enough; ++i) {
 		if (data[i] == 0) {
