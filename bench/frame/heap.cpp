@@ -1,5 +1,7 @@
 #include "heap.hpp"
 
+#include <cstdlib>
+
 #include <malloc.h>
 
 extern "C" {
@@ -14,6 +16,12 @@ namespace {
 
 // The programs run in one thread, so that counting costs next to nothing.
 std::uint64_t calls = 0;
+
+[[maybe_unused]] bool const keeps_memory = [] {
+	constexpr int never = 1 << 30;
+	constexpr int highest_mmap_threshold = 1 << 25;
+	return mallopt(M_TRIM_THRESHOLD, never) == 1 && mallopt(M_MMAP_THRESHOLD, highest_mmap_threshold) == 1;
+}();
 
 } // namespace
 
@@ -46,6 +54,12 @@ std::size_t heap_bytes() {
 
 std::uint64_t heap_calls() {
 	return calls;
+}
+
+void tidy_heap() {
+	// Large blocks make the allocator look at all small ones.
+	void *volatile const block = std::malloc(std::size_t(1) << 20);
+	std::free(block);
 }
 
 } // namespace bench
