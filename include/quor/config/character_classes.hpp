@@ -20,7 +20,8 @@
 
 namespace QUOR_2_9::config {
 
-/// Whether a byte separates two components of a key: `.`, `\` or `/`. Zero doesn't.
+/// Whether a byte separates two components of a key: a dot, a backslash or a slash; zero
+/// is none.
 ///
 /// No locale is asked; bytes from 0x80 on are no separators. @since 2.9
 constexpr bool is_key_separator(char unit) noexcept {
