@@ -55,7 +55,7 @@ inline config_entry passage(std::string name) {
 }
 
 // All nodes of a source, in the order of its listing.
-inline std::vector<config_entry> listing_of(QUOR_2_9::config::base_config_item &item) {
+inline std::vector<config_entry> listing_of(QUOR_2_9::config::base_config_item const &item) {
 	std::vector<std::pair<QUOR_2_9::strings::ustring8, std::pair<unsigned int, QUOR_2_9::types::variant>>> nodes;
 	item.get_value_pair_array(QUOR_2_9::strings::ustring8(), nodes, true);
 	std::vector<config_entry> result;

@@ -91,9 +91,9 @@ public:
 	/// The warning is "Warning! unknown key:", the argument,
 	/// "\nIgnoring key and continuing\n".
 	///
-	/// Untrusted input: safe, any bytes. Cost: linear in the length of the arguments, and
-	/// what storing takes; a run of blanks at the start of an argument costs what the token
-	/// before it did.
+	/// Untrusted input: safe, any bytes; an argument of 0xFFFFFFFE bytes or more has no
+	/// tokens. Cost: linear in the length of the arguments, and what storing takes; a run of
+	/// blanks at the start of an argument costs what the token before it did.
 	/// @throws std::bad_alloc and what `std::cout` is told to throw; what was read before
 	///         stays stored.
 	/// @since 2.9
