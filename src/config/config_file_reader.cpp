@@ -110,7 +110,7 @@ bool is_comma(scanned_token const &token) noexcept {
 } // namespace
 
 void config_file_reader::read() {
-	if (is_too_long_to_scan(m_text)) {
+	if (is_too_long_to_scan(m_text.size())) {
 		return;
 	}
 	while (m_pos < m_text.size()) {

@@ -1,6 +1,7 @@
 #include <quor/config/config_tree.hpp>
 
 #include <algorithm>
+#include <array>
 #include <ostream>
 #include <string>
 
@@ -124,13 +125,22 @@ void write(std::ostream &os, std::string_view text) {
 	os.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
+constexpr std::string_view bar_step = "|\t\t";
+
+/// Many steps, so that few writes do.
+constexpr auto long_bar = [] {
+	std::array<char, 64 * bar_step.size()> bar{};
+	for (std::size_t i = 0; i != bar.size(); ++i) {
+		bar[i] = bar_step[i % bar_step.size()];
+	}
+	return bar;
+}();
+
 /// Writes the bar that indents a line.
 void write_bar(std::ostream &os, std::size_t indent) {
-	static constexpr std::string_view bar = "|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t|\t\t";
-	constexpr std::size_t unit = 3;
-	for (std::size_t left = indent * unit; left != 0;) {
-		std::size_t const part = std::min(left, bar.size());
-		write(os, bar.substr(0, part));
+	for (std::size_t left = indent * bar_step.size(); left != 0;) {
+		std::size_t const part = std::min(left, long_bar.size());
+		write(os, {long_bar.data(), part});
 		left -= part;
 	}
 }

@@ -72,7 +72,7 @@ unsigned int end_of_string(char const *units, unsigned int size, unsigned int po
 
 scanned_token scan_token(strings::ustring8 const &text, unsigned int &pos) noexcept {
 	unsigned int const start = pos;
-	if (start >= text.size() || is_too_long_to_scan(text)) {
+	if (start >= text.size() || is_too_long_to_scan(text.size())) {
 		return {config_token::T_END, {}};
 	}
 	char const *const units = text.c_str();

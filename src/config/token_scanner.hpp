@@ -2,6 +2,7 @@
 #define QUOR_SRC_CONFIG_TOKEN_SCANNER_HPP
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 #include <quor/config/config_token.hpp>
@@ -47,11 +48,11 @@ constexpr token_start token_start_of(char unit) noexcept {
 	return token_starts[static_cast<unsigned char>(unit)];
 }
 
-/// From this size on, positions in a text don't fit their type.
+/// From this size on, positions in a text and behind it don't fit their type.
 inline constexpr unsigned int too_long_to_scan = 0xFFFFFFFEU;
 
-inline bool is_too_long_to_scan(strings::ustring8 const &text) noexcept {
-	return text.size() >= too_long_to_scan;
+constexpr bool is_too_long_to_scan(std::size_t size) noexcept {
+	return size >= too_long_to_scan;
 }
 
 /// The token at `pos`, which is moved behind it. At or behind the end it is `T_END` and `pos`
