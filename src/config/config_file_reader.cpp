@@ -14,6 +14,7 @@
 
 #include "config/array_elements.hpp"
 #include "config/key_path.hpp"
+#include "config/store_node.hpp"
 
 namespace QUOR_2_9::config::detail {
 namespace {
@@ -60,18 +61,35 @@ constexpr std::array<unsigned char, 256> make_plain_bytes() {
 
 constexpr std::array<unsigned char, 256> plain_bytes = make_plain_bytes();
 
-/// Takes the longest run of plain bytes.
+/// The end of the longest run of plain bytes from `pos` on, which lies in the text.
 template <plain_in Place>
-std::string_view plain_run(ustring8 const &text, unsigned int &pos) noexcept {
-	char const *const begin = text.data() + std::min<std::size_t>(pos, text.size());
-	char const *const end = text.data() + text.size();
-	char const *at = begin;
-	while (at != end && (plain_bytes[static_cast<unsigned char>(*at)] & Place) != 0) {
-		++at;
+unsigned int end_of_run(ustring8 const &text, unsigned int pos) noexcept {
+	char const *const units = text.data();
+	auto const size = static_cast<unsigned int>(text.size());
+	while (pos < size && (plain_bytes[static_cast<unsigned char>(units[pos])] & Place) != 0) {
+		++pos;
 	}
-	auto const length = static_cast<std::size_t>(at - begin);
-	pos += static_cast<unsigned int>(length);
-	return {begin, length};
+	return pos;
+}
+
+/// Moves all plain bytes from the text at `pos` to the end of `to`, without the blanks and
+/// tabs between them; returns whether there were any.
+template <plain_in Place>
+bool take_plain(ustring8 const &text, unsigned int &pos, ustring8 &to) {
+	bool taken = false;
+	while (pos < text.size()) {
+		unsigned int const end = end_of_run<Place>(text, pos);
+		if (end != pos) {
+			to.append(text, pos, end - pos);
+			pos = end;
+			taken = true;
+		}
+		if (char const next = text.c_str()[pos]; next != ' ' && next != '\t') {
+			break;
+		}
+		++pos;
+	}
+	return taken;
 }
 
 bool is_comment_start(config_token::tok_types type) noexcept {
@@ -113,13 +131,13 @@ void config_file_reader::read() {
 	if (is_too_long_to_scan(m_text.size())) {
 		return;
 	}
-	while (m_pos < m_text.size()) {
-		scanned_token const first = next_statement();
-		if (first.type == config_token::T_SBRACKET) {
+	while (find_statement()) {
+		if (m_text[m_pos] == '[') {
+			++m_pos;
 			read_section();
 			continue;
 		}
-		read_key(first);
+		read_key();
 		if (m_key.empty()) {
 			continue;
 		}
@@ -132,8 +150,8 @@ void config_file_reader::read() {
 }
 
 void config_file_reader::skip_comment(ustring8 const &text, unsigned int &pos) noexcept {
-	for (;;) {
-		plain_run<plain_in_comment>(text, pos);
+	while (true) {
+		pos = end_of_run<plain_in_comment>(text, pos);
 		unsigned int const before = pos;
 		scanned_token const token = scan_token(text, pos);
 		if (token.type == config_token::T_NEWLINE || token.type == config_token::T_END) {
@@ -143,24 +161,48 @@ void config_file_reader::skip_comment(ustring8 const &text, unsigned int &pos) n
 	}
 }
 
-/// The first token of the next statement, or the end.
-scanned_token config_file_reader::next_statement() noexcept {
-	for (;;) {
-		scanned_token const token = scan_token(m_text, m_pos);
-		if (is_comment_start(token.type)) {
-			skip_comment(m_text, m_pos);
-		} else if (!is_blank_or_line_end(token.type)) {
-			return token;
+/// The next token. Those that end most keys and values are taken without a call.
+scanned_token config_file_reader::next() noexcept {
+	if (m_pos < m_text.size()) {
+		char const *const at = m_text.c_str() + m_pos;
+		bool const newline = *at == '\n';
+		if (newline || (*at == '=' && at[1] != '=')) {
+			++m_pos;
+			return {newline ? config_token::T_NEWLINE : config_token::T_EQ, {at, 1}};
 		}
 	}
+	return scan_token(m_text, m_pos);
+}
+
+/// Moves to the first token of the next statement; false at the end of the text.
+bool config_file_reader::find_statement() noexcept {
+	while (m_pos < m_text.size()) {
+		char const unit = m_text[m_pos];
+		if (unit == '\n' || unit == ' ' || unit == '\t') {
+			++m_pos;
+			continue;
+		}
+		if (unit != '#' && unit != '/' && unit != '\r') {
+			return true;
+		}
+		unsigned int const before = m_pos;
+		config_token::tok_types const type = scan_token(m_text, m_pos).type;
+		if (is_comment_start(type)) {
+			skip_comment(m_text, m_pos);
+		} else if (type != config_token::T_NEWLINE) {
+			m_pos = before;
+			return true;
+		}
+	}
+	return false;
 }
 
 void config_file_reader::read_section() {
 	m_prefix.clear();
 	m_section = nullptr;
-	for (;;) {
-		m_prefix.append(plain_run<plain_in_section>(m_text, m_pos));
-		scanned_token const token = scan_token(m_text, m_pos);
+	while (true) {
+		take_plain<plain_in_section>(m_text, m_pos, m_prefix);
+		scanned_token const token = next();
 		if (token.type == config_token::T_EBRACKET || token.type == config_token::T_END) {
 			break;
 		}
@@ -173,14 +215,17 @@ void config_file_reader::read_section() {
 	}
 }
 
-void config_file_reader::read_key(scanned_token token) {
+void config_file_reader::read_key() {
 	m_key.clear();
-	while (token.type != config_token::T_EQ && token.type != config_token::T_END) {
+	while (true) {
+		take_plain<plain_in_key>(m_text, m_pos, m_key);
+		scanned_token const token = next();
+		if (token.type == config_token::T_EQ || token.type == config_token::T_END) {
+			break;
+		}
 		if (!is_blank_or_line_end(token.type)) {
 			m_key.append(token.text);
 		}
-		m_key.append(plain_run<plain_in_key>(m_text, m_pos));
-		token = scan_token(m_text, m_pos);
 	}
 }
 
@@ -199,9 +244,9 @@ bool config_file_reader::take_array_suffix() {
 
 void config_file_reader::read_value() {
 	m_value.clear();
-	for (;;) {
-		m_value.append(plain_run<plain_in_value>(m_text, m_pos));
-		scanned_token const token = scan_token(m_text, m_pos);
+	while (true) {
+		take_plain<plain_in_value>(m_text, m_pos, m_value);
+		scanned_token const token = next();
 		if (token.type == config_token::T_NEWLINE || token.type == config_token::T_END) {
 			break;
 		}
@@ -212,19 +257,18 @@ void config_file_reader::read_value() {
 		}
 	}
 	if (!m_value.empty()) {
-		types::variant const value(m_value);
-		section().set_node(m_key, value, 0);
+		store_node(section(), m_key, config_tree::flag_set, m_value);
 	}
 }
 
 void config_file_reader::read_array() {
 	m_value.clear();
 	bool behind_comma = false;
-	for (;;) {
-		std::string_view const run = plain_run<plain_in_array>(m_text, m_pos);
-		behind_comma = behind_comma && run.empty();
-		m_value.append(run);
-		scanned_token const token = scan_token(m_text, m_pos);
+	while (true) {
+		if (take_plain<plain_in_array>(m_text, m_pos, m_value)) {
+			behind_comma = false;
+		}
+		scanned_token const token = next();
 		if (token.type == config_token::T_END || (token.type == config_token::T_NEWLINE && !behind_comma)) {
 			break;
 		}

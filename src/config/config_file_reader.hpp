@@ -23,9 +23,10 @@ public:
 	static void skip_comment(strings::ustring8 const &text, unsigned int &pos) noexcept;
 
 private:
-	scanned_token next_statement() noexcept;
+	scanned_token next() noexcept;
+	bool find_statement() noexcept;
 	void read_section();
-	void read_key(scanned_token token);
+	void read_key();
 	bool take_array_suffix();
 	void read_value();
 	void read_array();

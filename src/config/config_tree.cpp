@@ -7,6 +7,7 @@
 
 #include "config/decimal_name.hpp"
 #include "config/key_path.hpp"
+#include "config/store_node.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::config {
@@ -67,25 +68,6 @@ void copy_children(config_tree const &from, config_tree &to) {
 				open.emplace_back(child.get(), copy.get());
 			}
 		}
-	}
-}
-
-/// A new node that has the rest of the path below it, the last node with the value.
-node_pointer make_branch(key_path &path, unsigned int flags, types::variant const &value) {
-	if (path.at_end()) {
-		return node_pointer(create_dynamic<config_tree>(flags, value));
-	}
-	node_pointer const branch(create_dynamic<config_tree>());
-	config_tree *last = branch.get();
-	while (true) {
-		ustring8 const name(path.next());
-		node_pointer const node(path.at_end() ? create_dynamic<config_tree>(flags, value)
-		                                      : create_dynamic<config_tree>());
-		last->children.emplace(name, node);
-		if (path.at_end()) {
-			return branch;
-		}
-		last = node.get();
 	}
 }
 
@@ -202,25 +184,7 @@ void config_tree::parse_string(ustring8 const &key, ustring8 &head, ustring8 &ta
 }
 
 void config_tree::set_node(ustring8 const &key, types::variant const &value, unsigned int flags) {
-	types::variant const kept(value);
-	unsigned int const word = flags | flag_set;
-	key_path path(key);
-	config_tree *node = this;
-	do {
-		std::string_view const name = path.next();
-		auto const place = node->children.lower_bound(name);
-		if (place == node->children.end() || place->first != name) {
-			node->children.emplace_hint(place, name, make_branch(path, word, kept));
-			return;
-		}
-		if (!place->second) {
-			place->second = make_branch(path, word, kept);
-			return;
-		}
-		node = place->second.get();
-	} while (!path.at_end());
-	node->node_data.first = word;
-	node->node_data.second = kept;
+	detail::store_node(*this, key, flags | flag_set, value);
 }
 
 config_tree::node_value const *config_tree::get_node(ustring8 const &key) const {

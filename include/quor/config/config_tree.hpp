@@ -18,6 +18,7 @@
 #include <iosfwd>
 #include <map>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -103,6 +104,9 @@ public:
 	/// A node without children, with this flags word, as it stands, and this value.
 	/// @since 2.9
 	config_tree(unsigned int flags, types::variant const &value);
+	/// The same with anything that a variant can hold. @since 2.9
+	template <class Value, std::enable_if_t<!std::is_same_v<Value, types::variant>, int> = 0>
+	config_tree(unsigned int flags, Value const &value) : node_data(flags, value) {}
 	/// A deep copy: new nodes with the same names, flags and values (which are shared).
 	/// @throws char const *, "unreferanced object", if `children` of a node in `other` holds
 	///         a null pointer; std::bad_alloc. Nothing is leaked.
