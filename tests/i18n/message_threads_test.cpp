@@ -33,6 +33,7 @@ TEST(message_threads, one_message_and_its_arguments_are_read_at_once) {
 				EXPECT_EQ(expected, message.as_string(args));
 				EXPECT_FALSE(message.has_valid_args(args)) << "three items, two arguments";
 				EXPECT_TRUE(args["missing"] == quor::types::nil);
+				// NOLINTNEXTLINE(performance-unnecessary-copy-initialization): threads copy what they share
 				varg_list const copy(args);
 				EXPECT_EQ(expected, message_t(message).as_utf8(copy));
 			}

@@ -526,7 +526,7 @@ public:
 		case 2:
 			return -static_cast<double>(bits() % 200000);
 		case 3: {
-			double value;
+			double value = 0;
 			std::uint64_t const image = m_random();
 			static_assert(sizeof(value) == sizeof(image));
 			std::memcpy(&value, &image, sizeof(value));

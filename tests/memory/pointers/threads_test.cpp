@@ -47,6 +47,7 @@ TEST(pointer_threads, references_to_one_object_are_taken_and_given_up_at_once) {
 	rc_pointer<shared_object> const object(create_dynamic<shared_object>(destroyed));
 	in_threads([&object](int) {
 		for (int i = 0; i != rounds; ++i) {
+			// NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the count is what is raced for
 			rc_pointer<shared_object> const copy(object);
 			shared_pointer<shared_object> const other(copy.get());
 			rc_pointer<shared_object> moved(copy);
