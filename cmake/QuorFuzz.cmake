@@ -1,15 +1,16 @@
-# quor_fuzz_target(<target> [LIBRARIES <target>...])
+# quor_fuzz_target(<target> [INTERNAL] [LIBRARIES <target>...])
 #
 # One fuzz target: tests/fuzz/<target>_fuzz.cpp with LLVMFuzzerTestOneInput, seeds in
 # tests/fuzz/corpus/<target>/, words for the engine in tests/fuzz/<target>.dict where
-# there is such a file.
+# there is such a file. INTERNAL targets reach private headers: they are linked to the
+# library's objects, with src/ on the include path.
 #
 # With QUOR_BUILD_FUZZ it is linked to the compiler's fuzzing engine (<target>_fuzz; run
 # it with tools/fuzz). Every other build makes a program that replays the seeds
 # (<target>_replay) and runs it as the CTest test fuzz.<target>.
 
 function(quor_fuzz_target target)
-  cmake_parse_arguments(PARSE_ARGV 1 fuzz "" "" "LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 fuzz "INTERNAL" "" "LIBRARIES")
   set(source "${PROJECT_SOURCE_DIR}/tests/fuzz/${target}_fuzz.cpp")
   set(corpus "${PROJECT_SOURCE_DIR}/tests/fuzz/corpus/${target}")
   if(QUOR_BUILD_FUZZ)
@@ -22,7 +23,13 @@ function(quor_fuzz_target target)
     add_executable(${program} "${source}" "${PROJECT_SOURCE_DIR}/tests/fuzz/replay_main.cpp")
     add_test(NAME fuzz.${target} COMMAND ${program} "${corpus}")
   endif()
-  target_link_libraries(${program} PRIVATE quor quor_compiler ${fuzz_LIBRARIES})
+  if(fuzz_INTERNAL)
+    set(library quor_objects quor_platform)
+    target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/src")
+  else()
+    set(library quor)
+  endif()
+  target_link_libraries(${program} PRIVATE ${library} quor_compiler ${fuzz_LIBRARIES})
   target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   set_tests_properties(fuzz.${target} PROPERTIES TIMEOUT 300 LABELS fuzz)
   set_property(GLOBAL APPEND PROPERTY QUOR_FUZZ_TARGETS ${target})

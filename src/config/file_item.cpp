@@ -100,7 +100,8 @@ void file_item::load_file() {
 	// The size is looked at first, so that a file that is too long takes no memory.
 	auto const size = system::detail::readable_size(file_name);
 	ustring8 text;
-	if (size && *size < std::int64_t(detail::too_long_to_scan) && system::load_file(file_name, text) == 0) {
+	if (size && *size >= 0 && *size < std::int64_t(detail::too_long_to_scan) &&
+	    system::load_file(file_name, text) == 0) {
 		detail::config_file_reader(text, item_tree).read();
 	}
 }

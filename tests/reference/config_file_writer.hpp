@@ -48,7 +48,7 @@ inline std::string cfg_leaf(std::string const &name) {
 inline std::string cfg_quoted(std::string const &text) {
 	for (char const c : text) {
 		if (c == ' ' || c == '\r' || c == '\t' || c == '\n') {
-			return '"' + text + '"';
+			return std::string("\"").append(text).append("\"");
 		}
 	}
 	return text;
@@ -64,7 +64,7 @@ inline cfg_written write_cfg(std::vector<cfg_entry> const &entries) {
 		if (section.flags != 0) {
 			continue;
 		}
-		text += "[" + cfg_quoted(section.name) + "]\r\n";
+		text.append("[").append(cfg_quoted(section.name)).append("]\r\n");
 		for (std::size_t f = 0; f < entries.size(); ++f) {
 			cfg_entry const &entry = entries[f];
 			if (entry.flags == 0) {
@@ -75,16 +75,16 @@ inline cfg_written write_cfg(std::vector<cfg_entry> const &entries) {
 				continue;
 			}
 			if (entry.flags != 3) {
-				text += cfg_quoted(leaf) + "=" + cfg_quoted(entry.value) + "\r\n";
+				text.append(cfg_quoted(leaf)).append("=").append(cfg_quoted(entry.value)).append("\r\n");
 				continue;
 			}
-			text += cfg_quoted(leaf) + "[]=";
+			text.append(cfg_quoted(leaf)).append("[]=");
 			++f;
 			if (f < entries.size() && cfg_leaf(entries[f].name) == "0") {
 				text += cfg_quoted(entries[f].value);
 				++f;
 				while (f < entries.size() && number(cfg_leaf(entries[f].name)) != 0) {
-					text += "," + cfg_quoted(entries[f].value);
+					text.append(",").append(cfg_quoted(entries[f].value));
 					++f;
 				}
 			}

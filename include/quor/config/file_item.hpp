@@ -55,7 +55,7 @@ namespace QUOR_2_9::config {
 /// Bytes are taken as they stand: a byte order mark is part of the first key, and zero bytes
 /// are text. Untrusted input: safe, but for the key of one byte; time and memory are linear
 /// in the text, for each component of the keys logarithmic in the number of its neighbours.
-/// A file of 4 GiB - 2 bytes or more counts as unreadable.
+/// A file of 4 GiB - 2 bytes or more, or of unknown size, counts as unreadable.
 ///
 /// A value type: copies are deep and have the id "standard file". Thread-safety: one
 /// thread at a time; two items on one file know nothing of each other.
