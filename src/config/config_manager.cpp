@@ -40,9 +40,10 @@ struct found_node {
 /// The node of the first item that has one at the key and for which `fits` is true.
 template <class Condition>
 found_node find_first(item_list const &items, ustring8 const &key, Condition fits) {
+	detail::key_path path(key);
 	for (auto const &item : items) {
 		if (item) {
-			found_node const found{item.get(), detail::find_node(detail::item_access::tree(*item), key)};
+			found_node const found{item.get(), detail::find_node(detail::item_access::tree(*item), path)};
 			if (found.node != nullptr && fits(found)) {
 				return found;
 			}

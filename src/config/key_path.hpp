@@ -46,6 +46,9 @@ public:
 		return {m_units + begin, end - begin};
 	}
 
+	/// Goes back to the first component.
+	void rewind() noexcept { m_pos = 0; }
+
 	/// Whether no component is left.
 	bool at_end() const noexcept { return m_pos == m_size; }
 
@@ -89,14 +92,21 @@ inline config_tree *find_child(config_tree const &node, std::string_view name) {
 	return found != node.children.end() ? found->second.get() : nullptr;
 }
 
-/// The node at a key, or null.
-inline config_tree *find_node(config_tree const &tree, std::string_view key) {
-	key_path path(key);
+/// The node at a path, or null. Starts at the first component, so that one path serves to
+/// ask several trees.
+inline config_tree *find_node(config_tree const &tree, key_path &path) {
+	path.rewind();
 	config_tree *node = find_child(tree, path.next());
 	while (node != nullptr && !path.at_end()) {
 		node = find_child(*node, path.next());
 	}
 	return node;
+}
+
+/// The node at a key, or null.
+inline config_tree *find_node(config_tree const &tree, std::string_view key) {
+	key_path path(key);
+	return find_node(tree, path);
 }
 
 } // namespace QUOR_2_9::config::detail

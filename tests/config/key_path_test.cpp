@@ -129,6 +129,19 @@ TEST(key_path, separator_at_each_place_cuts_there) {
 	}
 }
 
+TEST(key_path, one_path_asks_several_trees) {
+	config_tree first;
+	config_tree second;
+	first.set_node("a.other", 1, 0);
+	second.set_node("a.b", 2, 0);
+	detail::key_path path("A.B");
+	EXPECT_EQ(nullptr, detail::find_node(first, path)) << "stops on the way";
+	EXPECT_EQ(second.get_node("a.b"), &detail::find_node(second, path)->node_data);
+	EXPECT_EQ(nullptr, detail::find_node(first, path)) << "from the first component again";
+	path.rewind();
+	EXPECT_EQ("a", path.next());
+}
+
 TEST(name_order, agrees_with_the_order_of_the_bytes) {
 	static constexpr std::string_view units("\x00\x01"
 	                                        "ab\x7F\x80\xFF",
