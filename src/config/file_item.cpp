@@ -22,7 +22,7 @@ constexpr char const *item_name = "standard file";
 /// The first file that opens among those that the items name under a key; empty if none.
 ustring8 first_that_opens(base_config_item::item_list const &items, char const *key, char const *suffix) {
 	for (auto const &item : items) {
-		auto const *const found = item->get_value(key);
+		auto const *const found = item ? item->get_value(key) : nullptr;
 		if (found != nullptr) {
 			ustring8 path = found->second.as_string() + suffix;
 			if (system::detail::readable_size(path)) {

@@ -9,6 +9,7 @@
 #include <quor/quor.hpp>
 
 #include "config/listed_items.hpp"
+#include "support/temporary_directory.hpp"
 
 namespace {
 
@@ -652,6 +653,19 @@ TEST(null_pointers, are_passed_over) {
 	EXPECT_TRUE(manager.get_config_item("none").empty());
 	EXPECT_EQ("config_manager:\n\nconfig_item:\n", dumped(manager).substr(0, 30));
 	EXPECT_EQ(std::string::npos, dumped(manager).find("config_item:", 30));
+}
+
+TEST(null_pointers, are_passed_over_by_a_file_that_seeks_its_name) {
+	quor_test::temporary_directory const directory;
+	directory.write("found.cfg", "key = value\n");
+	listed_items sources;
+	sources.add_null();
+	sources.add(item_pointer(quor::generic::abilities::create_dynamic<quor::config::file_item>("")));
+	sources.add_null();
+	sources.add().set("cfg_file", directory.path("found.cfg"), 0);
+	config_manager manager = manager_of(sources);
+	EXPECT_TRUE(manager.load());
+	EXPECT_EQ("value", shown(manager.get_value("key")));
 }
 
 TEST(dump, has_every_byte_as_told) {
