@@ -26,16 +26,16 @@ struct any_order {
 /// Entries of `child_map` that are taken out of it whole, so that nothing is allocated.
 using doomed_nodes = std::multimap<ustring8, node_pointer, any_order>;
 
-/// Whether letting go of a node would destroy nodes below it.
-bool takes_others_along(node_pointer const &node) noexcept {
-	return node && !node->children.empty() && node->get_ref_count() == 1 && node->is_created_dynamic();
+/// Whether letting go of a node destroys it.
+bool is_last_holder(node_pointer const &node) noexcept {
+	return node->get_ref_count() == 1 && node->is_created_dynamic();
 }
 
-/// Empties a node, and moves its children that must be emptied first to `doomed`.
+/// Lets go of all children but those that have children, which it moves to `doomed`.
 void empty_node(config_tree::child_map &children, doomed_nodes &doomed) noexcept {
 	for (auto it = children.begin(); it != children.end();) {
 		auto const current = it++;
-		if (takes_others_along(current->second)) {
+		if (current->second && !current->second->children.empty()) {
 			doomed.insert(doomed.end(), children.extract(current));
 		}
 	}
@@ -48,7 +48,9 @@ void release(config_tree::child_map &children) noexcept {
 	empty_node(children, doomed);
 	while (!doomed.empty()) {
 		auto const node = doomed.extract(doomed.begin());
-		empty_node(node.mapped()->children, doomed);
+		if (is_last_holder(node.mapped())) {
+			empty_node(node.mapped()->children, doomed);
+		}
 	}
 }
 

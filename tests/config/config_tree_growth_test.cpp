@@ -201,6 +201,22 @@ TEST(config_tree_growth, keys_of_a_million_components_take_no_call_stack) {
 }
 
 // Names of the empty components add nothing, so the listing is as long as the tree.
+TEST(config_tree_growth, nodes_that_their_parents_hold_twice_take_no_call_stack) {
+	using node_pointer = QUOR_2_9::memory::pointers::rc_pointer<config_tree>;
+	config_tree tree;
+	config_tree *last = &tree;
+	for (std::size_t level = 0; level != million / 4; ++level) {
+		node_pointer const node(QUOR_2_9::generic::abilities::create_dynamic<config_tree>());
+		last->children["a"] = node;
+		last->children["b"] = node;
+		last = node.get();
+	}
+	node_pointer const held = tree.children["a"];
+	tree.erase();
+	EXPECT_EQ(held->get_ref_count(), 1u);
+	EXPECT_EQ(held->children.size(), 2u) << "somebody else holds it";
+}
+
 TEST(config_tree_growth, listings_of_a_million_levels_take_no_call_stack) {
 	config_tree tree;
 	tree.set_node(ustring8(million, '.') + "x", 1, 0);
