@@ -12,6 +12,7 @@
 
 #include <quor/config/base_config_item.hpp>
 #include <quor/config/character_classes.hpp>
+#include <quor/config/child_map.hpp>
 #include <quor/config/commandline_item.hpp>
 #include <quor/config/config_dispatch.hpp>
 #include <quor/config/config_manager.hpp>

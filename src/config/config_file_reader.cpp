@@ -109,14 +109,11 @@ config_tree &make_node(config_tree &tree, std::string_view key) {
 	key_path path(key);
 	config_tree *node = &tree;
 	do {
-		std::string_view const name = path.next();
-		config_tree *child = find_child(*node, name);
-		if (child == nullptr) {
-			node_pointer const created(generic::abilities::create_dynamic<config_tree>());
-			node->children.insert_or_assign(ustring8(name), created);
-			child = created.get();
+		node_pointer &child = node->children[path.next()];
+		if (!child) {
+			child = generic::abilities::create_dynamic<config_tree>();
 		}
-		node = child;
+		node = child.get();
 	} while (!path.at_end());
 	return *node;
 }

@@ -18,42 +18,6 @@ using generic::abilities::create_dynamic;
 using strings::ustring8;
 using node_pointer = memory::pointers::rc_pointer<config_tree>;
 
-/// Puts every name at the end, where no search is needed.
-struct any_order {
-	bool operator()(std::string_view /*left*/, std::string_view /*right*/) const noexcept { return false; }
-};
-
-/// Entries of `child_map` that are taken out of it whole, so that nothing is allocated.
-using doomed_nodes = std::multimap<ustring8, node_pointer, any_order>;
-
-/// Whether letting go of a node destroys it.
-bool is_last_holder(node_pointer const &node) noexcept {
-	return node->get_ref_count() == 1 && node->is_created_dynamic();
-}
-
-/// Lets go of all children but those that have children, which it moves to `doomed`.
-void empty_node(config_tree::child_map &children, doomed_nodes &doomed) noexcept {
-	for (auto it = children.begin(); it != children.end();) {
-		auto const current = it++;
-		if (current->second && !current->second->children.empty()) {
-			doomed.insert(doomed.end(), children.extract(current));
-		}
-	}
-	children.clear();
-}
-
-/// Lets go of all nodes, level by level instead of each by its parent's destructor.
-void release(config_tree::child_map &children) noexcept {
-	doomed_nodes doomed;
-	empty_node(children, doomed);
-	while (!doomed.empty()) {
-		auto const node = doomed.extract(doomed.begin());
-		if (is_last_holder(node.mapped())) {
-			empty_node(node.mapped()->children, doomed);
-		}
-	}
-}
-
 /// Copies what lies below `from` to `to`, which has no children.
 void copy_children(config_tree const &from, config_tree &to) {
 	std::vector<std::pair<config_tree const *, config_tree *>> open{{&from, &to}};
@@ -65,7 +29,7 @@ void copy_children(config_tree const &from, config_tree &to) {
 				throw "unreferanced object";
 			}
 			node_pointer const copy(create_dynamic<config_tree>(child->node_data.first, child->node_data.second));
-			target->children.emplace_hint(target->children.end(), name, copy);
+			target->children[name] = copy;
 			if (!child->children.empty()) {
 				open.emplace_back(child.get(), copy.get());
 			}
@@ -75,8 +39,8 @@ void copy_children(config_tree const &from, config_tree &to) {
 
 /// Nodes that are being walked through, each with the next of its children.
 struct open_node {
-	config_tree::child_map::const_iterator next;
-	config_tree::child_map::const_iterator end;
+	child_map::const_iterator next;
+	child_map::const_iterator end;
 	/// The length of the prefix of its children's names.
 	std::size_t prefix;
 };
@@ -162,16 +126,14 @@ config_tree &config_tree::operator=(config_tree const &other) {
 	return *this;
 }
 
-config_tree::~config_tree() {
-	release(children);
-}
+config_tree::~config_tree() = default;
 
 config_tree *config_tree::clone() const {
 	return create_dynamic<config_tree>(*this);
 }
 
 void config_tree::erase() {
-	release(children);
+	children.clear();
 }
 
 void config_tree::parse_string(ustring8 const &key, ustring8 &head, ustring8 &tail) const {

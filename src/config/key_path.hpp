@@ -12,6 +12,7 @@
 #include <quor/config/config_tree.hpp>
 #include <quor/strings/ustring.hpp>
 
+#include "config/child_block.hpp"
 #include "config/key_word.hpp"
 
 namespace QUOR_2_9::config::detail {
@@ -88,8 +89,7 @@ private:
 
 /// The child of a name that is in lower case, or null.
 inline config_tree *find_child(config_tree const &node, std::string_view name) {
-	auto const found = node.children.find(name);
-	return found != node.children.end() ? found->second.get() : nullptr;
+	return child_access::get(node.children, name);
 }
 
 /// The node at a path, or null. Starts at the first component, so that one path serves to

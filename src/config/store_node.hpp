@@ -6,7 +6,6 @@
 #include <quor/config/config_tree.hpp>
 #include <quor/generic/abilities/alloc_detection_ability.hpp>
 #include <quor/memory/pointers/rc_pointer.hpp>
-#include <quor/strings/ustring.hpp>
 #include <quor/types/variant.hpp>
 
 #include "config/key_path.hpp"
@@ -24,10 +23,10 @@ memory::pointers::rc_pointer<config_tree> make_branch(key_path &path, unsigned i
 	node_pointer const branch(create_dynamic<config_tree>());
 	config_tree *last = branch.get();
 	while (true) {
-		strings::ustring8 const name(path.next());
+		std::string_view const name = path.next();
 		node_pointer const node(path.at_end() ? create_dynamic<config_tree>(flags, value)
 		                                      : create_dynamic<config_tree>());
-		last->children.emplace(name, node);
+		last->children[name] = node;
 		if (path.at_end()) {
 			return branch;
 		}
@@ -42,17 +41,19 @@ void store_node(config_tree &tree, std::string_view key, unsigned int flags, Val
 	key_path path(key);
 	config_tree *node = &tree;
 	do {
-		std::string_view const name = path.next();
-		auto const place = node->children.lower_bound(name);
-		if (place == node->children.end() || place->first != name) {
-			node->children.emplace_hint(place, name, make_branch(path, flags, value));
+		bool made = false;
+		auto const make = [&] {
+			made = true;
+			return make_branch(path, flags, value);
+		};
+		auto &child = node->children.get_or_insert(path.next(), make);
+		if (!child) {
+			child = make();
+		}
+		if (made) {
 			return;
 		}
-		if (!place->second) {
-			place->second = make_branch(path, flags, value);
-			return;
-		}
-		node = place->second.get();
+		node = child.get();
 	} while (!path.at_end());
 	// A variant may be this node's own: it is taken before the old one is let go.
 	node->node_data.second = value;

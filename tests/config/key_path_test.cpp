@@ -142,30 +142,4 @@ TEST(key_path, one_path_asks_several_trees) {
 	EXPECT_EQ("a", path.next());
 }
 
-TEST(name_order, agrees_with_the_order_of_the_bytes) {
-	static constexpr std::string_view units("\x00\x01"
-	                                        "ab\x7F\x80\xFF",
-	                                        7);
-	std::mt19937 random(2908);
-	std::vector<std::string> names{""};
-	for (int i = 0; i != 400; ++i) {
-		std::string name;
-		for (std::size_t left = random() % 11; left != 0; --left) {
-			// Most begin alike.
-			name.push_back(name.size() < 5 && random() % 8 != 0 ? 'a' : units[random() % units.size()]);
-		}
-		names.push_back(name);
-	}
-	config_tree::name_order const before{};
-	for (std::string const &left : names) {
-		for (std::string const &right : names) {
-			bool const expected =
-			    std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) {
-				    return static_cast<unsigned char>(a) < static_cast<unsigned char>(b);
-			    });
-			ASSERT_EQ(before(left, right), expected) << '"' << left << "\" and \"" << right << '"';
-		}
-	}
-}
-
 } // namespace

@@ -14,21 +14,18 @@
 ///
 /// @since 2.9
 
-#include <cstddef>
 #include <iosfwd>
-#include <map>
-#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include <quor/config/child_map.hpp>
 #include <quor/export.hpp>
 #include <quor/generic/abilities/clone_ability.hpp>
 #include <quor/generic/abilities/reference_count_pointer_ability.hpp>
 #include <quor/memory/pointers/rc_pointer.hpp>
 #include <quor/strings/ustring.hpp>
 #include <quor/types/variant.hpp>
-#include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::config {
 
@@ -56,41 +53,10 @@ namespace QUOR_2_9::config {
 class QUOR_API config_tree : public generic::abilities::reference_count_pointer_ability<config_tree>,
                              public generic::abilities::clone_ability {
 public:
-	/// The order of siblings: by their names' bytes from 0 to 255, a prefix first, so `10`
-	/// stands before `2`. Names and parts of longer texts are compared alike. @since 2.9
-	struct name_order {
-		/// Lets `find` take a part of a text. @since 2.9
-		using is_transparent = void;
-		/// Whether `left` stands before `right`. @since 2.9
-		bool operator()(std::string_view left, std::string_view right) const noexcept {
-			if (left.size() >= head_size && right.size() >= head_size) {
-				// Most names differ early.
-				types::uint32 const left_head = head_of(left);
-				types::uint32 const right_head = head_of(right);
-				if (left_head != right_head) {
-					return left_head < right_head;
-				}
-			}
-			return left < right;
-		}
-
-	private:
-		static constexpr std::size_t head_size = 4;
-
-		/// The first bytes as a number that is ordered as they are.
-		static types::uint32 head_of(std::string_view name) noexcept {
-			return byte_of(name[0]) << 24 | byte_of(name[1]) << 16 | byte_of(name[2]) << 8 | byte_of(name[3]);
-		}
-
-		static types::uint32 byte_of(char unit) noexcept { return static_cast<unsigned char>(unit); }
-	};
-
 	/// A flags word and a value. @since 2.9
 	using node_value = std::pair<unsigned int, types::variant>;
 	/// What the listings are appended to: names with flags words and values. @since 2.9
 	using value_pair_array = std::vector<std::pair<strings::ustring8, node_value>>;
-	/// Nodes by their names. @since 2.9
-	using child_map = std::map<strings::ustring8, memory::pointers::rc_pointer<config_tree>, name_order>;
 
 	/// The node was given a value by `set_node`. @since 2.9
 	static constexpr unsigned int flag_set = 1;
