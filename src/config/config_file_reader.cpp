@@ -230,6 +230,8 @@ void config_file_reader::read_key() {
 bool config_file_reader::take_array_suffix() {
 	if (m_key.size() == 1) {
 		debug::invalid_parameter("string subscript out of range", "config\\file_item", __LINE__);
+		// The handler may have emptied the tree.
+		m_section = nullptr;
 		return false;
 	}
 	if (m_key[m_key.size() - 2] != '[' || m_key.back() != ']') {

@@ -268,6 +268,19 @@ TEST(config_file_reader, read_key_of_one_byte_stops) {
 	}
 }
 
+quor::config::config_tree *emptied_by_handler = nullptr;
+
+TEST(config_file_reader, read_goes_on_when_the_handler_empties_the_tree) {
+	quor::config::config_tree tree;
+	emptied_by_handler = &tree;
+	auto const previous = quor::debug::set_invalid_parameter_handler(
+	    [](char const *, char const *, unsigned int) { emptied_by_handler->erase(); });
+	quor::strings::ustring8 const text("[s.t]\naa = 1\nb = 2\ncc = 3\n");
+	quor::config::detail::config_file_reader(text, tree).read();
+	quor::debug::set_invalid_parameter_handler(previous);
+	EXPECT_EQ(listing_text(tree), "s:0= s.t:0= s.t.b:1=2 s.t.cc:1=3");
+}
+
 TEST(config_file_reader, skip_comment_ends_before_the_line_end) {
 	struct comment_row {
 		std::string text;
