@@ -50,10 +50,8 @@ commandline_item::~commandline_item() = default;
 commandline_item &commandline_item::operator=(commandline_item const &other) = default;
 
 bool commandline_item::load() {
-	if (m_argv != nullptr) {
-		if (m_argv[0] != nullptr) {
-			store_program_name(*this, m_argv[0]);
-		}
+	if (m_argv != nullptr && m_argv[0] != nullptr) {
+		store_program_name(*this, m_argv[0]);
 		detail::argument_reader(*this, get_argc(), m_argv).read();
 	}
 	return true;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <iomanip>
 #include <iostream>
@@ -32,15 +33,20 @@ struct loaded {
 	std::string output;
 };
 
-// What the arguments behind the program's name, which is not given, leave in a tree.
+bool is_program_name(config_entry const &entry) {
+	return entry.name == "application" || entry.name == "application.name" || entry.name == "application.name.raw";
+}
+
+// What the arguments behind the program's name, which is left out, leave in a tree.
 loaded load(arguments texts) {
-	texts.insert(texts.begin(), "");
+	texts.insert(texts.begin(), "p");
 	string_block block(texts);
-	block.pointers()[0] = nullptr;
 	commandline_item item(block.count(), block.pointers());
 	quor_test::cout_capture const capture;
 	EXPECT_TRUE(item.load());
-	return {listing_of(item), capture.text()};
+	loaded result{listing_of(item), capture.text()};
+	result.tree.erase(std::remove_if(result.tree.begin(), result.tree.end(), is_program_name), result.tree.end());
+	return result;
 }
 
 struct row {
@@ -365,7 +371,7 @@ TEST(commandline_item, arguments_end_at_the_count_and_at_a_null_pointer) {
 	} const rows[] = {
 	    {0, 4, 0},       {1, 4, 0}, {2, 4, 1}, {3, 4, 2}, {4, 4, 3},        {5, 4, 3},
 	    {INT_MAX, 4, 3}, {4, 1, 0}, {4, 2, 1}, {4, 3, 2}, {UINT_MAX, 4, 0}, {INT_MAX + 1U, 4, 0},
-	    {4, 0, 3},
+	    {4, 0, 0},
 	};
 	for (auto const &[count, null_at, expected] : rows) {
 		SCOPED_TRACE(testing::PrintToString(count) + " " + testing::PrintToString(null_at));
@@ -392,6 +398,15 @@ TEST(commandline_item, null_array_stores_nothing) {
 		EXPECT_TRUE(item.load());
 		EXPECT_EQ(listing_of(item), entries());
 		EXPECT_EQ(item.get_argv(), nullptr);
+	}
+}
+
+TEST(commandline_item, nothing_is_read_behind_a_null_program) {
+	std::vector<char const *> const only_null{nullptr};
+	for (unsigned int const count : {0U, 1U, 2U, UINT_MAX}) {
+		commandline_item item(count, only_null.data());
+		EXPECT_TRUE(item.load());
+		EXPECT_EQ(listing_of(item), entries());
 	}
 }
 

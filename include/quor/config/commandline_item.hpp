@@ -44,9 +44,9 @@ class QUOR_API commandline_item : public base_config_item {
 public:
 	/// An item for the arguments of `main`, with an empty tree.
 	///
-	/// `argv` may be null. Arguments are read from index 1 on, below `argc` and up to the
-	/// first null pointer; an `argc` that is negative as an `int` counts as 0. Nothing is
-	/// read before `load`.
+	/// `argv` may be null. If not, `argv[0]` is the program, whatever `argc` is. Arguments are
+	/// read from index 1 on, below `argc`; an `argc` that is negative as an `int` counts as 0.
+	/// A null pointer ends them, that of the program too. Nothing is read before `load`.
 	/// @since 2.9
 	commandline_item(unsigned int argc, char const *const *argv);
 
@@ -72,7 +72,7 @@ public:
 	/// "application.name" is the whole name, "application.name.extention" what stands
 	/// behind its last dot, if there is one, and "application.name.raw" the rest without
 	/// any dots, for a name without a dot the empty text. "tool.test.exe" has the raw name
-	/// "tooltest", "tool" has "". None of them is stored if `argv` or `argv[0]` is null.
+	/// "tooltest", "tool" has "". Nothing at all is stored if `argv` or `argv[0]` is null.
 	///
 	/// An argument is cut into tokens (`config_token`), and keys and values are made of
 	/// the texts of these tokens: quotes vanish, and what stands in them separates nothing.
