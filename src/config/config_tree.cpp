@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <ostream>
 #include <string>
 
@@ -84,9 +85,10 @@ constexpr auto long_bar = [] {
 	return bar;
 }();
 
-/// Writes the bar that indents a line.
-void write_bar(std::ostream &os, std::size_t indent) {
-	for (std::size_t left = indent * bar_step.size(); left != 0;) {
+/// Writes the bar that indents a line, nothing if `indent` is negative.
+void write_bar(std::ostream &os, std::ptrdiff_t indent) {
+	auto const steps = static_cast<std::size_t>(std::max<std::ptrdiff_t>(indent, 0));
+	for (std::size_t left = steps * bar_step.size(); left != 0;) {
 		std::size_t const part = std::min(left, long_bar.size());
 		write(os, {long_bar.data(), part});
 		left -= part;
@@ -181,7 +183,7 @@ void config_tree::get_value_pair_array(ustring8 const &key, value_pair_array &ou
 }
 
 void config_tree::dump(std::ostream &os, int indent) const {
-	auto bars = static_cast<std::size_t>(std::max(indent, 0));
+	std::ptrdiff_t bars = indent;
 	write_bar(os, bars);
 	std::vector<open_node> open{{children.begin(), children.end(), 0}};
 	while (!open.empty()) {

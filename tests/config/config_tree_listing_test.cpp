@@ -225,6 +225,21 @@ TEST(dump, each_line_is_indented) {
 	                            "|\t\t|\t\tend\n");
 }
 
+TEST(dump, negative_indents_are_counted_up_to_the_first_bar) {
+	config_tree tree;
+	tree.set_node("a.b.c", 1, 0);
+	std::string const head = "|---------------\\\n";
+	EXPECT_EQ(dump_of(tree, -1), "a : true\n" + head + "b : true\n" + head +
+	                                 "|\t\tc : 1 1\n"
+	                                 "|\t\t|\n"
+	                                 "|\t\tend\n"
+	                                 "end\n"
+	                                 "end\n");
+	std::string const flat = "a : true\n" + head + "b : true\n" + head + "c : 1 1\n|\nend\nend\nend\n";
+	EXPECT_EQ(dump_of(tree, -2), flat);
+	EXPECT_EQ(dump_of(tree, -2147483647 - 1), flat);
+}
+
 TEST(dump, an_empty_tree_is_its_end) {
 	struct row {
 		int indent;

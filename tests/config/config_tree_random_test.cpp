@@ -96,9 +96,9 @@ public:
 			ASSERT_EQ(entries_of(out), lines);
 		}
 		std::ostringstream out;
-		int const indent = static_cast<int>(m_random() % 3);
+		int const indent = static_cast<int>(m_random() % 6) - 3;
 		tree.dump(out, indent);
-		ASSERT_EQ(out.str(), expected.dump(static_cast<std::size_t>(indent)));
+		ASSERT_EQ(out.str(), expected.dump(indent));
 	}
 
 private:

@@ -91,9 +91,9 @@ public:
 	// All nodes.
 	void list(std::vector<config_entry> &out) const { list("", out, true, ""); }
 
-	std::string dump(std::size_t indent) const {
+	std::string dump(int indent) const {
 		std::string bar;
-		for (std::size_t i = 0; i != indent; ++i) {
+		for (int i = 0; i < indent; ++i) {
 			bar += "|\t\t";
 		}
 		std::string out = bar;

@@ -127,8 +127,9 @@ public:
 	                          strings::ustring8 const &prefix) const;
 
 	/// Writes the tree below this node for people, each line behind `indent` times "|" and
-	/// two tabs (none if negative): for each child its name, " : ", and flags word and value as
-	/// text, or "true" if the flags word is 0, then its children one step further in.
+	/// two tabs: for each child its name, " : ", and flags word and value as text, or "true"
+	/// if the flags word is 0, then its children with `indent` and 1. A negative `indent`
+	/// puts nothing before a line.
 	///
 	/// The stream's formatting and locale play no part. Names and values are written in full
 	/// length, zeros too. Cost: linear in what is written, which grows with the square of
