@@ -37,8 +37,8 @@ namespace QUOR_2_9::config {
 ///
 /// The strings are not owned: `argv` and what it points to must outlive the item and its
 /// copies. A copy has a tree of its own, is held by nobody and is not marked as created
-/// dynamically; assignment leaves the target's own count and mark. Thread-safety: one
-/// thread at a time.
+/// dynamically; assignment leaves the target's own count and mark. Thread-safety: many
+/// readers or one writer.
 /// @since 2.9
 class QUOR_API commandline_item : public base_config_item {
 public:

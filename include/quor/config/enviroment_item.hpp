@@ -20,8 +20,8 @@ namespace QUOR_2_9::config {
 ///
 /// The strings are not owned: `envp` and what it points to must outlive the item and its
 /// copies. A copy has a tree of its own, is held by nobody and is not marked as created
-/// dynamically; assignment leaves the target's own count and mark. Thread-safety: one
-/// thread at a time; `load` reads the strings as they are then.
+/// dynamically; assignment leaves the target's own count and mark. Thread-safety: many
+/// readers or one writer; `load` reads the strings as they are then.
 /// @since 2.9
 class QUOR_API enviroment_item : public base_config_item {
 public:

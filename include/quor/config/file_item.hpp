@@ -57,8 +57,8 @@ namespace QUOR_2_9::config {
 /// in the text, for each component of the keys logarithmic in the number of its neighbours.
 /// A file of 4 GiB - 2 bytes or more, or of unknown size, counts as unreadable.
 ///
-/// A value type: copies are deep and have the id "standard file". Thread-safety: one
-/// thread at a time; two items on one file know nothing of each other.
+/// A value type: copies are deep and have the id "standard file". Thread-safety: many
+/// readers or one writer; two items on one file know nothing of each other.
 /// @since 2.9
 class QUOR_API file_item : public base_config_item {
 public:

@@ -24,8 +24,8 @@ namespace QUOR_2_9::config {
 /// came into a `config_manager` through a dispatch is found as "user_item".
 ///
 /// A copy has a tree of its own, is held by nobody and is not marked as created
-/// dynamically; assignment leaves the target's own count and mark. Thread-safety: one
-/// thread at a time.
+/// dynamically; assignment leaves the target's own count and mark. Thread-safety: many
+/// readers or one writer.
 /// @since 2.9
 class QUOR_API user_item : public base_config_item {
 public:
