@@ -21,18 +21,8 @@ using QUOR_2_9::config::config_tree;
 using QUOR_2_9::types::nil;
 using quor_reference::config_entry;
 using quor_reference::config_node;
+using quor_test::entries_of;
 using entries = std::vector<config_entry>;
-
-entries entries_of(config_tree::value_pair_array const &nodes) {
-	entries result;
-	for (auto const &[name, data] : nodes) {
-		result.push_back({name, data.first, std::nullopt});
-		if (data.second != nil) {
-			result.back().value = data.second.as_utf8();
-		}
-	}
-	return result;
-}
 
 class random_trees {
 public:

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
-#include <map>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -15,6 +14,7 @@
 #include "reference/config_node.hpp"
 #include "reference/config_sources.hpp"
 #include "reference/config_tokens.hpp"
+#include "support/config_sources.hpp"
 #include "support/open_config_item.hpp"
 
 namespace {
@@ -25,6 +25,7 @@ using QUOR_2_9::strings::ustring8;
 using quor_reference::config_entry;
 using quor_reference::config_node;
 using quor_reference::config_piece;
+using quor_test::entries_of;
 
 void check(bool holds, char const *what) {
 	if (!holds) {
@@ -58,17 +59,6 @@ void check_assignment(std::string const &text) {
 	auto const [key, value] = quor_reference::config_assignment(text);
 	auto const result = item.make_key_value(text, config_token::T_EQ);
 	check(result.first == key && result.second.as_string() == value, "an assignment");
-}
-
-std::vector<config_entry> entries_of(config_tree::value_pair_array const &nodes) {
-	std::vector<config_entry> result;
-	for (auto const &[name, data] : nodes) {
-		result.push_back({name, data.first, std::nullopt});
-		if (data.second != QUOR_2_9::types::nil) {
-			result.back().value = data.second.as_utf8();
-		}
-	}
-	return result;
 }
 
 // The key in the other case and with other separators.

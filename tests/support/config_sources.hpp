@@ -13,7 +13,8 @@
 #include <vector>
 
 #include <quor/config/base_config_item.hpp>
-#include <quor/strings/ustring.hpp>
+#include <quor/config/config_tree.hpp>
+#include <quor/types/nil.hpp>
 
 #include "reference/config_sources.hpp"
 
@@ -54,10 +55,8 @@ inline config_entry passage(std::string name) {
 	return {std::move(name), 0, std::nullopt};
 }
 
-// All nodes of a source, in the order of its listing.
-inline std::vector<config_entry> listing_of(QUOR_2_9::config::base_config_item const &item) {
-	std::vector<std::pair<QUOR_2_9::strings::ustring8, std::pair<unsigned int, QUOR_2_9::types::variant>>> nodes;
-	item.get_value_pair_array(QUOR_2_9::strings::ustring8(), nodes, true);
+// What the library lists, with values as text.
+inline std::vector<config_entry> entries_of(QUOR_2_9::config::config_tree::value_pair_array const &nodes) {
 	std::vector<config_entry> result;
 	for (auto const &[name, data] : nodes) {
 		result.push_back({name, data.first, std::nullopt});
@@ -66,6 +65,13 @@ inline std::vector<config_entry> listing_of(QUOR_2_9::config::base_config_item c
 		}
 	}
 	return result;
+}
+
+// All nodes of a source, in the order of its listing.
+inline std::vector<config_entry> listing_of(QUOR_2_9::config::base_config_item const &item) {
+	QUOR_2_9::config::config_tree::value_pair_array nodes;
+	item.get_value_pair_array("", nodes, true);
+	return entries_of(nodes);
 }
 
 } // namespace quor_test
