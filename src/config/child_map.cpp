@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <stdexcept>
 
 #include <quor/config/config_tree.hpp>
 
@@ -84,12 +85,38 @@ child_map::const_iterator child_map::find(std::string_view name) const noexcept 
 	return found.exists ? const_iterator(found.in, found.index) : end();
 }
 
+child_map::size_type child_map::count(std::string_view name) const noexcept {
+	return locate(name).exists ? 1 : 0;
+}
+
+child_map::mapped_type const &child_map::at(std::string_view name) const {
+	place const found = locate(name);
+	if (!found.exists) {
+		throw std::out_of_range("child_map::at");
+	}
+	return pointer_at(found);
+}
+
 config_tree *child_map::get(std::string_view name) const noexcept {
 	return detail::child_access::get(*this, name);
 }
 
 child_map::mapped_type &child_map::operator[](std::string_view name) {
 	return get_or_insert(name, [] { return mapped_type(); });
+}
+
+std::pair<child_map::const_iterator, bool> child_map::emplace(std::string_view name, mapped_type const &node) {
+	place const found = locate(name);
+	if (found.exists) {
+		return {const_iterator(found.in, found.index), false};
+	}
+	strings::ustring8 const own_name(name);
+	insert_at(found, own_name, node);
+	return {find(own_name), true};
+}
+
+std::pair<child_map::const_iterator, bool> child_map::insert(value_type const &entry) {
+	return emplace(entry.first, entry.second);
 }
 
 void child_map::clear() noexcept {
@@ -123,7 +150,7 @@ child_map::mapped_type &child_map::pointer_at(place const &found) noexcept {
 	return found.in->sorted(found.index).second;
 }
 
-child_map::mapped_type &child_map::insert(place to, std::string_view name, mapped_type node) {
+child_map::mapped_type &child_map::insert_at(place to, std::string_view name, mapped_type node) {
 	entry added(strings::ustring8(name), std::move(node));
 	if (m_first == nullptr) {
 		m_first = block::make(least_capacity);

@@ -5,6 +5,7 @@
 #include <map>
 #include <new>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -89,6 +90,50 @@ TEST(child_map, index_makes_a_null_pointer_that_can_be_set) {
 	map["a"] = node;
 	EXPECT_EQ(map.size(), 1u);
 	EXPECT_EQ(map.get("a"), node.get());
+}
+
+TEST(child_map, emplace_and_insert_leave_what_is_there) {
+	child_map map;
+	pointer const node = new_node();
+	auto const [added, is_new] = map.emplace("b", node);
+	EXPECT_TRUE(is_new);
+	EXPECT_EQ(added->first, "b");
+	EXPECT_EQ(added->second, node);
+	auto const again = map.emplace("b", new_node());
+	EXPECT_FALSE(again.second);
+	EXPECT_EQ(again.first, map.find("b"));
+	EXPECT_EQ(map.get("b"), node.get());
+	EXPECT_TRUE(map.insert({"a", nullptr}).second);
+	EXPECT_FALSE(map.insert(*map.find("b")).second);
+	EXPECT_TRUE(map.insert(std::make_pair("c", node)).second);
+	EXPECT_EQ(map.size(), 3u);
+	EXPECT_EQ(node->get_ref_count(), 3u) << "here and in two entries";
+}
+
+TEST(child_map, emplace_returns_the_entry_at_every_size) {
+	child_map map;
+	for (int i = 0; i != 200; ++i) {
+		std::string const name = std::to_string(i * 37 % 200);
+		pointer const node = new_node();
+		auto const found = map.emplace(name, node).first;
+		ASSERT_EQ(found->first, name);
+		ASSERT_EQ(found->second, node);
+	}
+	EXPECT_EQ(map.size(), 200u);
+}
+
+TEST(child_map, count_and_at_tell_what_is_there) {
+	child_map map;
+	EXPECT_EQ(map.count("a"), 0u);
+	EXPECT_THROW(map.at("a"), std::out_of_range);
+	map["a"] = new_node();
+	map["null"];
+	EXPECT_EQ(map.count("a"), 1u);
+	EXPECT_EQ(map.count("null"), 1u);
+	EXPECT_EQ(map.count("A"), 0u);
+	EXPECT_EQ(map.at("a").get(), map.get("a"));
+	EXPECT_EQ(map.at("null"), nullptr);
+	EXPECT_THROW(map.at("b"), std::out_of_range);
 }
 
 TEST(child_map, get_or_insert_asks_only_for_what_is_missing) {

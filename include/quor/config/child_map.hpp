@@ -123,6 +123,10 @@ public:
 
 	/// The entry of a name, or `end`. Names are compared byte by byte. @since 2.9
 	const_iterator find(std::string_view name) const noexcept;
+	/// How many entries have a name: 0 or 1. @since 2.9
+	size_type count(std::string_view name) const noexcept;
+	/// The pointer at a name. @throws std::out_of_range if there is no such entry. @since 2.9
+	mapped_type const &at(std::string_view name) const;
 	/// The node of a name, or null if there is none. @since 2.9
 	config_tree *get(std::string_view name) const noexcept;
 
@@ -135,8 +139,15 @@ public:
 	template <class Make>
 	mapped_type &get_or_insert(std::string_view name, Make make) {
 		place const found = locate(name);
-		return found.exists ? pointer_at(found) : insert(found, name, make());
+		return found.exists ? pointer_at(found) : insert_at(found, name, make());
 	}
+
+	/// Adds an entry if the name has none, and leaves the one it has otherwise. Returns the entry
+	/// of the name, and whether it is a new one. If memory runs out, nothing is changed.
+	/// @since 2.9
+	std::pair<const_iterator, bool> emplace(std::string_view name, mapped_type const &node);
+	/// The same with the two members of a pair. @since 2.9
+	std::pair<const_iterator, bool> insert(value_type const &entry);
 
 	/// Lets go of all nodes; those that somebody else holds live on. @since 2.9
 	void clear() noexcept;
@@ -155,7 +166,7 @@ private:
 
 	place locate(std::string_view name) const noexcept;
 	static mapped_type &pointer_at(place const &found) noexcept;
-	mapped_type &insert(place to, std::string_view name, mapped_type node);
+	mapped_type &insert_at(place to, std::string_view name, mapped_type node);
 	place grow(place const &to);
 	place split(place const &to, strings::ustring8 const &name);
 
