@@ -108,10 +108,11 @@ bool is_blank_or_line_end(config_token::tok_types type) noexcept {
 config_tree &make_node(config_tree &tree, std::string_view key) {
 	key_path path(key);
 	config_tree *node = &tree;
+	auto const make = [] { return node_pointer(generic::abilities::create_dynamic<config_tree>()); };
 	do {
-		node_pointer &child = node->children[path.next()];
+		node_pointer &child = node->children.get_or_insert(path.next(), make);
 		if (!child) {
-			child = generic::abilities::create_dynamic<config_tree>();
+			child = make();
 		}
 		node = child.get();
 	} while (!path.at_end());

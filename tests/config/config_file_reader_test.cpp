@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <initializer_list>
+#include <new>
 #include <random>
 #include <string>
 #include <utility>
@@ -9,6 +11,7 @@
 
 #include <quor/quor.hpp>
 
+#include "support/allocation_counter.hpp"
 #include "support/config_file_check.hpp"
 #include "support/stop_handler.hpp"
 
@@ -279,6 +282,27 @@ TEST(config_file_reader, read_goes_on_when_the_handler_empties_the_tree) {
 	quor::config::detail::config_file_reader(text, tree).read();
 	quor::debug::set_invalid_parameter_handler(previous);
 	EXPECT_EQ(listing_text(tree), "s:0= s.t:0= s.t.b:1=2 s.t.cc:1=3");
+}
+
+// A null pointer left in the tree would make it one that can't be copied.
+TEST(config_file_reader, running_out_of_memory_leaves_a_tree_that_can_be_copied) {
+	quor::strings::ustring8 const text("[a section with a long name.below.it]\nkey.of.parts = value\nlist[] = a, b\n");
+	std::size_t failures = 0;
+	for (bool failed = true; failed; failures += failed ? 1 : 0) {
+		quor::config::config_tree tree;
+		{
+			quor_test::allocation_failure const failure(failures);
+			try {
+				quor::config::detail::config_file_reader(text, tree).read();
+			} catch (std::bad_alloc const &) {
+			}
+			failed = failure.happened();
+		}
+		quor::config::config_tree const copy(tree);
+		EXPECT_EQ(listing_text(copy), listing_text(tree));
+		EXPECT_EQ(failed, listing_text(tree) != listing_text(read_tree(text)));
+	}
+	EXPECT_GT(failures, 10u);
 }
 
 TEST(config_file_reader, skip_comment_ends_before_the_line_end) {
