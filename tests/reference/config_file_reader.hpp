@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "reference/config_file_tokens.hpp"
+#include "reference/config_tokens.hpp"
 
 namespace reference {
 
@@ -27,8 +27,8 @@ struct cfg_contents {
 class cfg_reader {
 public:
 	static cfg_contents read(std::string const &text) {
-		cfg_reader reader(text);
-		while (reader.m_tokens.pos < text.size()) {
+		cfg_reader reader(text, 0);
+		while (reader.m_next != reader.m_pieces.size()) {
 			reader.statement();
 		}
 		return reader.m_contents;
@@ -36,48 +36,40 @@ public:
 
 	// Where a comment ends that begins before `pos`.
 	static std::size_t comment_end(std::string const &text, std::size_t pos) {
-		cfg_reader reader(text);
-		reader.m_tokens.pos = pos;
+		cfg_reader reader(text, pos);
 		reader.comment();
-		return reader.m_tokens.pos;
+		return reader.m_next == 0 ? pos : reader.m_pieces[reader.m_next - 1].end;
 	}
 
 private:
-	explicit cfg_reader(std::string const &text) : m_tokens(text) {}
+	using piece = quor_reference::config_piece;
 
-	static bool blank(cfg_token const &token) {
-		return token.kind == cfg_kind::blank || token.kind == cfg_kind::tab || token.kind == cfg_kind::newline;
-	}
+	cfg_reader(std::string const &text, std::size_t from) : m_pieces(quor_reference::config_pieces::of(text, from)) {}
 
+	static bool is_comment(piece const &token) { return token.is_mark("#") || token.is_mark("//"); }
+	static bool is_line_end(piece const &token) { return token.kind == "line end"; }
+
+	bool at_end() const { return m_next == m_pieces.size(); }
+
+	// Stops before the line end.
 	void comment() {
-		std::size_t remembered = m_tokens.pos;
-		cfg_token token = m_tokens.next();
-		while (token.kind != cfg_kind::end && token.kind != cfg_kind::newline) {
-			remembered = m_tokens.pos;
-			token = m_tokens.next();
+		while (!at_end() && !is_line_end(m_pieces[m_next])) {
+			++m_next;
 		}
-		m_tokens.pos = remembered;
 	}
 
 	void statement() {
-		cfg_token token = m_tokens.next();
-		while (token.kind == cfg_kind::comment || blank(token)) {
-			if (token.kind == cfg_kind::comment) {
+		while (!at_end() && (is_comment(m_pieces[m_next]) || m_pieces[m_next].is_gap())) {
+			if (is_comment(m_pieces[m_next++])) {
 				comment();
 			}
-			token = m_tokens.next();
 		}
-		if (token.kind == cfg_kind::open) {
+		if (!at_end() && m_pieces[m_next].is_mark("[")) {
+			++m_next;
 			section();
 			return;
 		}
-		std::string key;
-		while (token.kind != cfg_kind::equals && token.kind != cfg_kind::end) {
-			if (!blank(token)) {
-				key += token.text;
-			}
-			token = m_tokens.next();
-		}
+		std::string const key = text_up_to("=");
 		if (key.empty()) {
 			return;
 		}
@@ -92,30 +84,36 @@ private:
 	}
 
 	void section() {
-		std::string name;
-		for (;;) {
-			cfg_token const token = m_tokens.next();
-			if (token.kind == cfg_kind::close || token.kind == cfg_kind::end) {
+		std::string const name = text_up_to("]");
+		m_prefix = name.empty() ? "" : name + ".";
+	}
+
+	// All text before a mark, which is taken too.
+	std::string text_up_to(std::string const &mark) {
+		std::string text;
+		while (!at_end()) {
+			piece const &token = m_pieces[m_next++];
+			if (token.is_mark(mark)) {
 				break;
 			}
-			if (!blank(token)) {
-				name += token.text;
+			if (!token.is_gap()) {
+				text += *token.text;
 			}
 		}
-		m_prefix = name.empty() ? "" : name + ".";
+		return text;
 	}
 
 	void scalar(std::string const &key) {
 		std::string value;
-		for (;;) {
-			cfg_token const token = m_tokens.next();
-			if (token.kind == cfg_kind::newline || token.kind == cfg_kind::end) {
+		while (!at_end()) {
+			piece const &token = m_pieces[m_next++];
+			if (is_line_end(token)) {
 				break;
 			}
-			if (token.kind == cfg_kind::comment) {
+			if (is_comment(token)) {
 				comment();
-			} else if (!blank(token)) {
-				value += token.text;
+			} else if (!token.is_gap()) {
+				value += *token.text;
 			}
 		}
 		if (!value.empty()) {
@@ -126,19 +124,19 @@ private:
 	void array(std::string const &key) {
 		std::string value;
 		bool waiting = false; // behind a comma, for a token with text
-		for (;;) {
-			cfg_token const token = m_tokens.next();
-			if (token.kind == cfg_kind::end || (token.kind == cfg_kind::newline && !waiting)) {
+		while (!at_end()) {
+			piece const &token = m_pieces[m_next++];
+			if (is_line_end(token) && !waiting) {
 				break;
 			}
-			if (token.kind == cfg_kind::comment) {
+			if (is_comment(token)) {
 				comment();
-			} else if (token.kind == cfg_kind::comma) {
+			} else if (token.is("other", ",")) {
 				m_list.push_back(value);
 				value = "";
 				waiting = true;
-			} else if (!blank(token)) {
-				value += token.text;
+			} else if (!token.is_gap()) {
+				value += *token.text;
 				waiting = false;
 			}
 		}
@@ -149,7 +147,8 @@ private:
 		}
 	}
 
-	cfg_tokens m_tokens;
+	std::vector<piece> m_pieces;
+	std::size_t m_next = 0;
 	std::string m_prefix;
 	std::vector<std::string> m_list;
 	cfg_contents m_contents;
