@@ -5,6 +5,7 @@
 #include <string>
 #include <type_traits>
 #include <typeinfo>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -227,6 +228,29 @@ TEST(base_config_item, set_array_keys_that_end_in_a_separator_have_other_element
 		    (*row.key == '\0' || ustring8(row.key).find_last_of("./\\") != ustring8(row.key).size() - 1);
 		EXPECT_EQ(out.size(), below_head ? 2u : 0u) << row.key;
 	}
+}
+
+TEST(base_config_item, everyday_arguments_need_no_casts) {
+	open_config_item item;
+	std::string const key("plain");
+	item.set(key, key + "!", 0);
+	item.set(key + ".literal", "text", 0);
+	item.set("long", 1L, 0);
+	item.set("flag", true, config_tree::flag_reference);
+	item.set(key + ".line = 1", 0);
+	item.set(item.make_key_value("colon: 2", config_token::T_COLON), 0);
+	item.set_array(key + ".list", {"a", 2}, {});
+	item.set_array("none", {}, {});
+	EXPECT_EQ(listing_of(std::as_const(item)), (entries{value("colon", "2"),
+	                                                    {"flag", 5, "1"},
+	                                                    value("long", "1"),
+	                                                    head("none"),
+	                                                    value("plain", "plain!"),
+	                                                    value("plain.line", "1"),
+	                                                    head("plain.list"),
+	                                                    value("plain.list.0", "a"),
+	                                                    value("plain.list.1", "2"),
+	                                                    value("plain.literal", "text")}));
 }
 
 TEST(base_config_item, listings_begin_below_the_key) {

@@ -103,4 +103,15 @@ TEST(config_token, copies_take_all_fields) {
 	EXPECT_EQ(assigned.token_text, "text");
 }
 
+TEST(config_token, fields_stand_in_their_order) {
+	config_token token = token_of(config_token::T_NUM, "12");
+	token.token_end = 9;
+	token.token_start = 7;
+	auto const &[text, end, start, type] = token;
+	EXPECT_EQ(text, "12");
+	EXPECT_EQ(end, 9u);
+	EXPECT_EQ(start, 7u);
+	EXPECT_EQ(type, config_token::T_NUM);
+}
+
 } // namespace

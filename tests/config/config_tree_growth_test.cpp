@@ -156,6 +156,22 @@ TEST(config_tree_growth, a_null_child_leaks_nothing) {
 	EXPECT_LE(counter.live(), 0);
 }
 
+// What was copied before the null child goes, and is as deep as the tree.
+TEST(config_tree_growth, copies_that_fail_below_many_levels_take_no_call_stack) {
+	config_tree source;
+	ustring8 const key(million / 4, '.');
+	source.set_node(key + "x", 1, 0);
+	config_tree *last = &source;
+	while (!last->children.empty()) {
+		last = last->children.begin()->second.get();
+	}
+	last->children["null"] = nullptr;
+	EXPECT_THROW(config_tree const copy(source), char const *);
+	config_tree target(1, "kept");
+	EXPECT_THROW(target = source, char const *);
+	EXPECT_EQ(target.node_data.second.as_string(), "kept");
+}
+
 // Discards what is written and counts it.
 class counting_buffer : public std::streambuf {
 public:
@@ -200,7 +216,6 @@ TEST(config_tree_growth, keys_of_a_million_components_take_no_call_stack) {
 	EXPECT_TRUE(tree.children.empty());
 }
 
-// Names of the empty components add nothing, so the listing is as long as the tree.
 TEST(config_tree_growth, nodes_that_their_parents_hold_twice_take_no_call_stack) {
 	using node_pointer = QUOR_2_9::memory::pointers::rc_pointer<config_tree>;
 	config_tree tree;
@@ -217,6 +232,7 @@ TEST(config_tree_growth, nodes_that_their_parents_hold_twice_take_no_call_stack)
 	EXPECT_EQ(held->children.size(), 2u) << "somebody else holds it";
 }
 
+// Names of the empty components add nothing, so the listing is as long as the tree.
 TEST(config_tree_growth, listings_of_a_million_levels_take_no_call_stack) {
 	config_tree tree;
 	tree.set_node(ustring8(million, '.') + "x", 1, 0);
