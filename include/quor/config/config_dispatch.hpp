@@ -52,7 +52,8 @@ public:
 	virtual void setup(item_list &items) const = 0;
 
 	/// Calls `load(items)` on each item in the order of the list, so an item finds loaded
-	/// those before it only. What the items answer is dropped. @since 2.9
+	/// those before it only. What the items answer is dropped. Where one throws, those behind
+	/// it aren't called; the same holds for `unload` and `save`. @since 2.9
 	virtual void load(item_list &items) const;
 
 	/// Calls `unload()` on each item in the order of the list. @since 2.9

@@ -71,6 +71,8 @@ public:
 	/// What was loaded before stays where the sources don't overwrite it; `unload` first for
 	/// a fresh start. Files that are missing or can't be read aren't reported.
 	/// @return false if there is no dispatch, else true, whatever the items did.
+	/// @throws what an item throws: for a file, see `file_item::load`. The items before it are
+	///         loaded then, those behind it aren't.
 	/// @since 2.9
 	bool load();
 

@@ -107,9 +107,14 @@ public:
 	///   value of its own, unless another section's name has the same length.
 	/// - A section takes in all entries whose own section's name has the same *length* as
 	///   its own; loading such a file gives each of these sections the keys of all.
-	/// - An array (flags exactly 3) takes the elements that follow in the order of the
-	///   tree, which is `0`, `1`, `10`, `2`; it ends at the first entry whose name is
-	///   no number or the number 0, and **that entry is left out**.
+	/// - An array (flags exactly 3) takes the entry behind it if that has the name `0`, and
+	///   then all up to the first whose name is no number or the number 0 (as `str_to_int`
+	///   reads it, by its prefix). The order is that of the tree: `0`, `1`, `10`, `2`. The
+	///   entry that ends the array, or stands behind a head without a `0`, is **left out**.
+	/// - Values that no blank brings into quotes are read as the reader reads them: `#` and
+	///   `//` begin a comment, quotes vanish, a leading `=` becomes part of the key, a comma
+	///   ends an element. A backslash at the end of one in quotes hides the closing quote. An
+	///   empty value, and an array with an empty last element, store nothing.
 	/// - Comments are not kept.
 	///
 	/// An array that runs to the last entry of the tree goes to `debug::invalid_parameter`

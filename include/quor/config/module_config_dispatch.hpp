@@ -28,7 +28,8 @@ namespace QUOR_2_9::config {
 ///
 /// The order decides which keys a file item sees when it seeks its file. A `cfg_file` key
 /// inside of the first file thus redirects every file item behind it, and from the second
-/// load on also the first one.
+/// load on also the first one. One of the environment redirects all of them from the
+/// second load on, one of the user values from the first on.
 ///
 /// A value type; copies copy all fields. The environment strings aren't owned and must
 /// outlive the dispatch and every manager that it was given to.
