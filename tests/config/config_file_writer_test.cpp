@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -283,6 +284,64 @@ TEST(config_file_writer, text_loads_again_as_what_the_rules_keep) {
 				ASSERT_NE(found, nullptr);
 			}
 		}
+	}
+}
+
+TEST(config_file_writer, text_of_arrays_loads_again_in_the_order_of_the_listing) {
+	// Sections of different lengths; behind each array stands a key that gets lost.
+	std::vector<ustring8> const values{"v", "x y", "a\tb", "two\nlines", "1, 2", "C:\\dir", "# 3", "http:// x"};
+	std::mt19937 random(99);
+	for (int i = 0; i != 2000 && !HasFatalFailure(); ++i) {
+		config_tree tree;
+		config_tree expected;
+		for (std::size_t sections = random() % 5; sections != 0; --sections) {
+			std::string const section(sections, 's');
+			for (std::size_t arrays = random() % 4; arrays != 0; --arrays) {
+				ustring8 const key = section + ".list" + std::to_string(arrays);
+				std::size_t const size = 1 + random() % 13;
+				// By the bytes of their indices: 0, 1, 10, 11, 12, 2.
+				std::map<std::string, ustring8> elements;
+				for (std::size_t index = 0; index != size; ++index) {
+					elements[std::to_string(index)] = values[random() % values.size()];
+				}
+				tree.set_node(key, variant(), config_tree::flag_array);
+				expected.set_node(key, variant(), config_tree::flag_array);
+				std::size_t place = 0;
+				for (auto const &[name, value] : elements) {
+					tree.set_node(key + "." + name, value, 0);
+					expected.set_node(key + "." + std::to_string(place++), value, 0);
+				}
+				tree.set_node(key + "_", "lost", 0);
+			}
+			tree.set_node(section + ".scalar", values[random() % values.size()], 0);
+			expected.set_node(section + ".scalar", tree.get_node(section + ".scalar")->second, 0);
+		}
+		stop_handler const stops(on_stop::returns);
+		ASSERT_EQ(listing_text(read_tree(saved(tree))), listing_text(expected));
+		ASSERT_EQ(stops.count(), 0U);
+	}
+}
+
+TEST(config_file_writer, text_that_is_not_quoted_is_read_as_the_reader_reads_it) {
+	struct row {
+		char const *value;
+		std::string listing;
+	};
+	for (auto const &[value, listing] : {
+	         row{"=42", "s:0= s.kk==42zz:1=end"}, // the key runs on
+	         row{"a#b", "s:0= s.kk:1=a s.zz:1=end"},
+	         row{"a//b", "s:0= s.kk:1=a s.zz:1=end"},
+	         row{"# b", "s:0= s.kk:1=# b s.zz:1=end"},
+	         row{"", "s:0= s.zz:1=end"},
+	         row{"a\"b\"", "s:0= s.kk:1=ab s.zz:1=end"},
+	         row{"a\\", "s:0= s.kk:1=a\\ s.zz:1=end"},
+	         row{"a b\\", "s:0= s.kk:1=a b\\\"\r\nzz=end\r\n\r\n"},
+	     }) {
+		SCOPED_TRACE(value);
+		config_tree tree;
+		tree.set_node("s.kk", value, 0);
+		tree.set_node("s.zz", "end", 0);
+		EXPECT_EQ(listing_text(read_tree(saved(tree))), listing);
 	}
 }
 

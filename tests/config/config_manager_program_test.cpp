@@ -9,6 +9,7 @@
 
 #include <quor/quor.hpp>
 
+#include "support/stop_handler.hpp"
 #include "support/temporary_directory.hpp"
 
 namespace {
@@ -192,6 +193,31 @@ TEST_F(program_settings, dump_shows_every_source) {
 	          "end\n"
 	          "\nno more config_items!\n\nending output\n",
 	          stream.str());
+}
+
+TEST(program_that_loads_a_bad_file, keeps_what_came_before_the_bad_key) {
+	temporary_directory const directory;
+	directory.write("bad.cfg", "before = 1\nx = 2\nafter = 3\n");
+	char const *const argv[] = {"service.exe", "-given=4"};
+	char const *const envp[] = {"REGION=north", nullptr};
+	config_manager manager;
+	manager.init(std_config_dispatch(2, argv, envp, directory.path("bad.cfg"), ""));
+	{
+		quor_test::stop_handler const stops(quor_test::on_stop::throws);
+		EXPECT_THROW(manager.load(), quor_test::stopped);
+	}
+	EXPECT_TRUE(manager.value_exist("given"));
+	EXPECT_TRUE(manager.value_exist("before"));
+	EXPECT_FALSE(manager.value_exist("x") || manager.value_exist("after"));
+	EXPECT_FALSE(manager.value_exist("region")) << "the environment comes behind the file";
+	quor_test::stop_handler const stops(quor_test::on_stop::returns);
+	EXPECT_TRUE(manager.load());
+	EXPECT_EQ(1U, stops.count());
+	EXPECT_EQ("2", manager.get_value("x").as_string());
+	EXPECT_EQ("3", manager.get_value("after").as_string());
+	EXPECT_EQ("north", manager.get_value("region").as_string());
+	EXPECT_TRUE(manager.unload());
+	EXPECT_FALSE(manager.value_exist("before"));
 }
 
 TEST_F(program_settings, references_cross_the_sources) {

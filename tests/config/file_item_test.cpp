@@ -100,6 +100,12 @@ TEST_F(config_file_item, load_values_are_text) {
 	ASSERT_NE(item.get_value("AA"), nullptr);
 	EXPECT_EQ(item.get_value("aa")->second.type(), typeid(ustring8));
 	EXPECT_EQ(item.get_value("aa")->second.as_int(), 16);
+	m_directory.write("f.cfg", "list[] = 1, two\n");
+	item.load();
+	for (char const *const key : {"list.0", "list.1"}) {
+		ASSERT_NE(item.get_value(key), nullptr) << key;
+		EXPECT_EQ(item.get_value(key)->second.type(), typeid(ustring8)) << key;
+	}
 }
 
 TEST_F(config_file_item, load_without_a_file_leaves_the_tree) {
@@ -206,6 +212,38 @@ TEST_F(config_file_item, load_list_finds_a_program_without_a_name) {
 	item.load({names_program("")});
 	EXPECT_EQ(item.get_filename(), ".cfg");
 	EXPECT_EQ(listing_text(item), "from:1=hidden");
+}
+
+TEST_F(config_file_item, load_list_takes_values_of_every_kind_as_text) {
+	m_directory.write(".cfg", "from = hidden\n");
+	m_directory.write("7", "from = seven\n");
+	m_directory.write("8.cfg", "from = eight\n");
+	working_directory const here(m_directory.root());
+	auto const array = [](ustring8 const &key) {
+		rc_pointer<base_config_item> item(create_dynamic<user_item>());
+		item->set_array(key, quor::generic::varg_list("7", "8"), quor::generic::varg_list());
+		return item;
+	};
+	struct row {
+		char const *name;
+		item_list items;
+		ustring8 found;
+	};
+	for (auto const &[name, items, found] : {
+	         row{"number", {user_with("cfg_file", 7)}, "7"},
+	         row{"number of a program", {user_with("application.name.raw", 8)}, "8.cfg"},
+	         row{"array has no text", {array("cfg_file")}, ""},
+	         row{"array, then a file", {array("cfg_file"), names_file("7")}, "7"},
+	         // There is such a node, so its empty text counts.
+	         row{"node passed through by a program's key", {user_with("application.name.raw.more", "x")}, ".cfg"},
+	         row{"array of a program", {array("application.name.raw")}, ".cfg"},
+	         row{"spelling", {user_with("CFG_File", "7")}, "7"},
+	     }) {
+		SCOPED_TRACE(name);
+		file_item item("");
+		EXPECT_TRUE(item.load(items));
+		EXPECT_EQ(item.get_filename(), found);
+	}
 }
 
 TEST_F(config_file_item, load_list_takes_a_malformed_path_for_the_file_of_that_text) {

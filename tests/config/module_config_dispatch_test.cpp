@@ -151,6 +151,26 @@ TEST(module_config_dispatch, cfg_file_in_the_first_file_redirects_the_others) {
 	EXPECT_FALSE(manager.value_exist("two"));
 }
 
+TEST(module_config_dispatch, cfg_file_of_the_environment_redirects_all_files_at_the_second_load) {
+	temporary_directory const directory;
+	directory.write("first.cfg", "one = 1\n");
+	directory.write("second.cfg", "two = 2\n");
+	directory.write("target.cfg", "target = 3\n");
+	working_directory const here(directory.root());
+	char const *const envp[] = {"CFG_FILE=target.cfg", nullptr};
+	config_manager manager;
+	manager.init(module_config_dispatch({"first.cfg", "second.cfg"}, envp));
+	manager.load();
+	EXPECT_TRUE(manager.value_exist("one") && manager.value_exist("two"));
+	EXPECT_FALSE(manager.value_exist("target"));
+	manager.load();
+	EXPECT_EQ("3", manager.get_value("target").as_string());
+	manager.unload();
+	manager.load();
+	EXPECT_FALSE(manager.value_exist("one") || manager.value_exist("two"));
+	EXPECT_EQ("3", manager.get_value("target").as_string());
+}
+
 TEST(module_config_dispatch, user_values_name_the_file_of_the_very_first_load) {
 	temporary_directory const directory;
 	directory.write("own.cfg", "which = own\n");
