@@ -3,7 +3,8 @@
 
 /// @file
 /// The whole library in one include, and `quor` as a short name of its versioned
-/// namespace. Include the header of one class instead where compile time matters.
+/// namespace. Include the header of one class instead where compile time matters; it knows
+/// the namespace as `QUOR_2_9` alone.
 ///
 ///     #include <quor/quor.hpp>
 ///     quor::strings::ustring8 text("hello");
