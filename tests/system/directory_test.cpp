@@ -34,6 +34,7 @@ protected:
 
 	std::vector<Text> paths(std::vector<std::string> const &names) const {
 		std::vector<Text> result;
+		result.reserve(names.size());
 		for (auto const &name : names) {
 			result.push_back(path(name));
 		}
