@@ -58,7 +58,7 @@ TEST(allocation, copying_a_variant_allocates_nothing) {
 		          variant const another(copy);
 		          target = another;
 		          target.assign(source);
-		          variant const moved(std::move(copy));
+		          variant const moved(std::move(copy)); // NOLINT(performance-move-const-arg): a move copies
 	          }),
 	          0U);
 }
