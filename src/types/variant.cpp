@@ -1,6 +1,7 @@
 #include <quor/types/variant.hpp>
 
 #include <type_traits>
+#include <typeinfo>
 
 #include <quor/generic/abilities/alloc_detection_ability.hpp>
 
@@ -98,9 +99,10 @@ variant &variant::assign(variant const &other) noexcept {
 }
 
 bool variant::equal(nil_t const & /*nil*/) const {
-	// All holders are made in the library, which has one description of the type: there is
-	// no need to compare names.
-	return &type() == &typeid(nil_t);
+	// Each type has one holder, and the library one description of it: there is no need to
+	// compare names.
+	variant_type const &held = *m_holder;
+	return &typeid(held) == &typeid(variant_value_t<nil_t>);
 }
 
 bool variant::operator==(nil_t const &value) const {
@@ -200,7 +202,7 @@ long double variant::as_long_double() const {
 }
 
 strings::ustring8 variant::as_string() const {
-	return equal(nil) ? strings::ustring8() : strings::ustring8(m_holder->as_string());
+	return as_utf8();
 }
 
 wide_string variant::as_wstring() const {
@@ -212,7 +214,7 @@ wide_string variant::as_ustring() const {
 }
 
 strings::ustring8 variant::as_utf8() const {
-	return equal(nil) ? strings::ustring8() : strings::ustring8(m_holder->as_utf8());
+	return equal(nil) ? strings::ustring8() : m_holder->as_utf8();
 }
 
 strings::ustring16 variant::as_utf16() const {
