@@ -25,7 +25,7 @@ struct child_map::directory {
 	std::size_t size = 0;
 };
 
-/// Up to 32 entries. They stay where they were put: what is kept in order are the heads of
+/// Up to 64 entries. They stay where they were put: what is kept in order are the heads of
 /// their names and their numbers. The arrays of heads, numbers and entries follow in the
 /// same memory, each with room for `capacity`, which is a multiple of four.
 struct child_map::block {
@@ -86,9 +86,12 @@ private:
 
 inline child_map::place child_map::block::locate(std::string_view name) noexcept {
 	detail::name_head const head = detail::head_of(name);
-	unsigned int first = detail::count_less(heads(), count, head);
+	unsigned int first = detail::count_less(heads(), capacity, head);
 	if (first == count || heads()[first] != head) {
 		return {this, first, false};
+	}
+	if (detail::is_same_name(sorted(first).first, name)) {
+		return {this, first, true};
 	}
 	unsigned int last = first + 1;
 	while (last != count && heads()[last] == head) {

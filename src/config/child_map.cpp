@@ -15,7 +15,7 @@ namespace {
 using entry = child_map::value_type;
 
 constexpr unsigned int least_capacity = 4;
-constexpr unsigned int most_capacity = 32;
+constexpr unsigned int most_capacity = 64;
 
 /// Whether letting go of a node would destroy nodes below it.
 bool takes_others_along(child_map::mapped_type const &node) noexcept {

@@ -18,22 +18,20 @@
 namespace QUOR_2_9::config::detail {
 
 /// The components of a key, one after the other, in lower case. There is always at least
-/// one; a separator at the key's end has none behind it. Keeps a copy of the key.
+/// one; a separator at the key's end has none behind it. A key without capitals isn't copied,
+/// so it must stay while the components are used.
 class key_path {
 public:
-	explicit key_path(std::string_view key) : m_size(key.size()) {
-		char *units = m_small.data();
-		if (m_size > m_small.size()) {
-			m_large.resize(m_size + key_word_size);
-			units = m_large.data();
-		}
-		m_units = units;
-		std::size_t pos = 0;
-		for (; m_size - pos >= key_word_size; pos += key_word_size) {
-			add(load_word(key.data() + pos), pos, units);
-		}
-		if (pos != m_size) {
-			add(load_rest(key.data(), pos, m_size), pos, units);
+	explicit key_path(std::string_view key) : m_units(key.data()), m_size(key.size()) {
+		key_word capitals = 0;
+		for_each_word([&](key_word word, std::size_t pos) {
+			capitals |= lower_word(word) ^ word;
+			if (pos < marked_size) {
+				m_separators |= separators(word) << pos;
+			}
+		});
+		if (capitals != 0) {
+			copy();
 		}
 	}
 	key_path(key_path const &) = delete;
@@ -56,12 +54,26 @@ public:
 private:
 	static constexpr std::size_t marked_size = 64;
 
-	/// Writes a word in lower case and marks its separators.
-	void add(key_word word, std::size_t pos, char *units) noexcept {
-		store_word(lower_word(word), units + pos);
-		if (pos < marked_size) {
-			m_separators |= separators(word) << pos;
+	template <class Action>
+	void for_each_word(Action action) {
+		std::size_t pos = 0;
+		for (; m_size - pos >= key_word_size; pos += key_word_size) {
+			action(load_word(m_units + pos), pos);
 		}
+		if (pos != m_size) {
+			action(load_rest(m_units, pos, m_size), pos);
+		}
+	}
+
+	/// Goes over to a copy in lower case.
+	void copy() {
+		char *units = m_small.data();
+		if (m_size > m_small.size()) {
+			m_large.resize(m_size + key_word_size);
+			units = m_large.data();
+		}
+		for_each_word([units](key_word word, std::size_t pos) { store_word(lower_word(word), units + pos); });
+		m_units = units;
 	}
 
 	std::size_t end_of_component() const noexcept {
@@ -80,7 +92,7 @@ private:
 	// Not initialised: filled as far as the key reaches, and up to seven bytes further.
 	std::array<char, 256> m_small;
 	strings::ustring8 m_large;
-	char const *m_units = nullptr;
+	char const *m_units;
 	/// A bit for each separator among the first bytes.
 	std::uint64_t m_separators = 0;
 	std::size_t m_size;

@@ -71,7 +71,8 @@ constexpr std::uint64_t gather(key_word top_bits) noexcept {
 
 /// A bit for each byte that separates components, the first byte's lowest.
 constexpr std::uint64_t separators(key_word word) noexcept {
-	return gather(where(word, '.') | where(word, '\\') | where(word, '/'));
+	// A point and a slash differ in their lowest bit.
+	return gather(where(word | repeated('.' ^ '/'), '/') | where(word, '\\'));
 }
 
 } // namespace QUOR_2_9::config::detail

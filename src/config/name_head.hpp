@@ -1,6 +1,7 @@
 #ifndef QUOR_SRC_CONFIG_NAME_HEAD_HPP
 #define QUOR_SRC_CONFIG_NAME_HEAD_HPP
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -35,13 +36,13 @@ constexpr name_head head_of(std::string_view name) noexcept {
 	return static_cast<name_head>(units ^ 0x80000000U);
 }
 
-/// How many of the first `count` heads are less than `head`. There is room for a multiple of
-/// four, and behind those that count stands `last_head`.
-inline unsigned int count_less(name_head const *heads, unsigned int count, name_head head) noexcept {
+/// How many heads are less than `head`. Their number is a multiple of four; unused ones at the
+/// end are `last_head`.
+inline unsigned int count_less(name_head const *heads, unsigned int number, name_head head) noexcept {
 	using four_heads [[gnu::vector_size(4 * name_head_size)]] = name_head;
 	four_heads const wanted{head, head, head, head};
 	four_heads less{};
-	for (unsigned int i = 0; i < count; i += 4) {
+	for (unsigned int i = 0; i != number; i += 4) {
 		four_heads some;
 		std::memcpy(&some, heads + i, sizeof some);
 		// True is -1.
@@ -50,36 +51,36 @@ inline unsigned int count_less(name_head const *heads, unsigned int count, name_
 	return static_cast<unsigned int>(less[0] + less[1] + less[2] + less[3]);
 }
 
-/// Whether the same `Number` stands at both places.
-template <class Number>
-bool is_same_at(char const *left, char const *right) noexcept {
-	Number left_number = 0;
-	Number right_number = 0;
-	std::memcpy(&left_number, left, sizeof left_number);
-	std::memcpy(&right_number, right, sizeof right_number);
-	return left_number == right_number;
+/// What differs between the four bytes at two places.
+inline std::uint32_t difference(char const *left, char const *right) noexcept {
+	std::uint32_t left_units = 0;
+	std::uint32_t right_units = 0;
+	std::memcpy(&left_units, left, sizeof left_units);
+	std::memcpy(&right_units, right, sizeof right_units);
+	return left_units ^ right_units;
 }
 
 /// Whether names are the same that have the same head.
 inline bool is_same_name(std::string_view left, std::string_view right) noexcept {
+	constexpr std::size_t four = name_head_size;
 	std::size_t const size = left.size();
 	if (size != right.size()) {
 		return false;
 	}
-	if (size <= name_head_size) {
+	if (size <= four) {
 		return true;
 	}
-	// Short names without a call; their first and last bytes may overlap.
-	if (size <= 2 * name_head_size) {
-		std::size_t const rest = size - name_head_size;
-		return is_same_at<std::uint32_t>(left.data() + rest, right.data() + rest);
+	char const *const l = left.data();
+	char const *const r = right.data();
+	if (size > 4 * four) {
+		return std::memcmp(l, r, size) == 0;
 	}
-	if (size <= 2 * sizeof(std::uint64_t)) {
-		std::size_t const rest = size - sizeof(std::uint64_t);
-		return is_same_at<std::uint64_t>(left.data(), right.data()) &&
-		       is_same_at<std::uint64_t>(left.data() + rest, right.data() + rest);
-	}
-	return std::memcmp(left.data(), right.data(), size) == 0;
+	// Names of usual lengths, without a branch that depends on the length.
+	std::size_t const last = size - four;
+	std::size_t const second = std::min(four, last);
+	std::size_t const third = std::min(2 * four, last);
+	return (difference(l + second, r + second) | difference(l + third, r + third) | difference(l + last, r + last)) ==
+	       0;
 }
 
 } // namespace QUOR_2_9::config::detail
