@@ -60,7 +60,7 @@ TYPED_TEST(every_holder, is_set_and_tells_its_type) {
 
 TYPED_TEST(every_holder, clone_is_a_dynamic_holder_with_count_zero) {
 	rc_pointer<variant_type> const source(create_dynamic<variant_value_t<TypeParam>>(one<TypeParam>()));
-	rc_pointer<variant_type> const more(source);
+	rc_pointer<variant_type> const more(source); // NOLINT(performance-unnecessary-copy-initialization): it counts
 	std::unique_ptr<variant_type> const clone(source->clone());
 	EXPECT_NE(clone.get(), source.get());
 	EXPECT_EQ(clone->type(), typeid(TypeParam));

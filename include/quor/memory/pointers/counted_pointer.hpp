@@ -52,7 +52,7 @@ public:
 	counted_pointer(counted_pointer const &other) noexcept {
 		if (&other != this) {
 			m_object = other.m_object;
-			take(m_object);
+			take(m_object); // NOLINT(clang-analyzer-cplusplus.NewDelete): it can't follow the count
 		}
 	}
 
