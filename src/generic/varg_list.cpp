@@ -63,7 +63,7 @@ bool varg_list::push_back(strings::ustring8 const &name, types::variant const &v
 	if (!name.empty() && has_argument(name)) {
 		return false;
 	}
-	m_arguments.push_back(argument(name, value));
+	m_arguments.emplace_back(name, value);
 	return true;
 }
 

@@ -92,13 +92,14 @@ public:
 	/// The value as a `long double`. @since 2.9
 	virtual long double as_long_double() const = 0;
 
+	/// Holders are never assigned.
+	variant_type &operator=(variant_type const &) = delete;
+
 protected:
 	/// Flag false, count 0. @since 2.9
 	variant_type() noexcept = default;
 	/// A new holder: flag false, count 0. @since 2.9
 	variant_type(variant_type const &) noexcept;
-	/// Holders are never assigned.
-	variant_type &operator=(variant_type const &) = delete;
 };
 
 /// The holder of a `T`. It exists for the twenty types below and for no other.
