@@ -71,8 +71,7 @@ private:
 };
 
 void describe() {
-	compete_in_loading<file_store>(bench::library);
-	compete_in_answers<managed_store>(bench::library);
+	compete<file_store, managed_store>(bench::library);
 
 	bench::limit(load_name, "GKeyFile", 1, 0.25);
 	bench::limit(load_name, "Boost.PropertyTree", 0.5);

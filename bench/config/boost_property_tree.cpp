@@ -51,8 +51,7 @@ private:
 };
 
 void describe() {
-	compete_in_loading<ini_file>(name);
-	compete_in_answers<deep_tree>(name);
+	compete<ini_file, deep_tree>(name);
 }
 
 bench::entry const added(&describe);

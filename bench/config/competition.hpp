@@ -67,50 +67,51 @@ void load(benchmark::State &state) {
 template <class Loader>
 void compete_in_loading(std::string const &name) {
 	compare_contents<Loader>(name);
+	bench::tidy_heap();
 	std::size_t const before = bench::heap_bytes();
-	auto const loaded = std::make_unique<Loader>(large_file());
+	auto loaded = std::make_unique<Loader>(large_file());
 	std::size_t const after = bench::heap_bytes();
 	bench::figure(memory_name, name, static_cast<double>(after - before) / static_cast<double>(large_file().size));
+	loaded.reset();
+	bench::tidy_heap();
 	bench::operation(load_name, name, &load<Loader>);
 }
 
 /// A store with what it is asked for.
 template <class Store>
 struct asked {
-	asked(config_file const &file, bool numbers_only) : store(file) {
+	using keys = std::vector<typename Store::key_type>;
+
+	explicit asked(config_file const &file)
+	    : store(file), text_keys(sample_keys(file, false)), number_keys(sample_keys(file, true)) {}
+
+	keys sample_keys(config_file const &file, bool numbers_only) const {
+		keys result;
 		for (setting const &one : sample(file, numbers_only)) {
-			keys.push_back(store.key(one));
+			result.push_back(store.key(one));
 		}
+		return result;
 	}
 
 	Store store;
-	std::vector<typename Store::key_type> keys;
+	keys text_keys;
+	keys number_keys;
 };
 
-template <class Store>
-void ask_for_text(benchmark::State &state, asked<Store> const &with) {
-	std::size_t const last = with.keys.size() - 1;
+/// Asks with one key after the other, whose number is a power of two.
+template <class Key, class Ask>
+void ask(benchmark::State &state, std::vector<Key> const &keys, Ask const &answer) {
+	std::size_t const last = keys.size() - 1;
 	std::size_t index = 0;
 	for (auto _ : state) {
-		benchmark::DoNotOptimize(with.store.text(with.keys[index]));
-		index = (index + 1) & last;
-	}
-}
-
-template <class Store>
-void ask_for_number(benchmark::State &state, asked<Store> const &with) {
-	std::size_t const last = with.keys.size() - 1;
-	std::size_t index = 0;
-	for (auto _ : state) {
-		benchmark::DoNotOptimize(with.store.number(with.keys[index]));
+		benchmark::DoNotOptimize(answer(keys[index]));
 		index = (index + 1) & last;
 	}
 }
 
 /// Answers are right, and cost the told number of allocations on average.
 template <class Store>
-void check_answers(std::string const &name, config_file const &file, bool tell) {
-	Store const store(file);
+void check_answers(std::string const &name, Store const &store, config_file const &file, bool tell) {
 	std::uint64_t text_calls = 0;
 	std::uint64_t number_calls = 0;
 	std::size_t texts = 0;
@@ -149,14 +150,23 @@ void compete_in_answers(std::string const &name) {
 		char const *suffix;
 	};
 	for (place const &one : {place{small_file(), " of a small file"}, place{large_file(), " of the 1 MB"}}) {
-		check_answers<Answerer>(name, one.file, &one.file == &large_file());
-		auto const texts = std::make_shared<asked<Answerer>>(one.file, false);
-		auto const numbers = std::make_shared<asked<Answerer>>(one.file, true);
-		bench::operation(std::string(text_name) + one.suffix, name,
-		                 [texts](benchmark::State &state) { ask_for_text(state, *texts); });
-		bench::operation(std::string(number_name) + one.suffix, name,
-		                 [numbers](benchmark::State &state) { ask_for_number(state, *numbers); });
+		auto const with = std::make_shared<asked<Answerer> const>(one.file);
+		check_answers(name, with->store, one.file, &one.file == &large_file());
+		bench::operation(std::string(text_name) + one.suffix, name, [with](benchmark::State &state) {
+			ask(state, with->text_keys, [&with](auto const &key) { return with->store.text(key); });
+		});
+		bench::operation(std::string(number_name) + one.suffix, name, [with](benchmark::State &state) {
+			ask(state, with->number_keys, [&with](auto const &key) { return with->store.number(key); });
+		});
 	}
+}
+
+/// Stores that will be asked are loaded first, so that each lies in memory as its allocations
+/// come and not in the gaps that a released store has left.
+template <class Loader, class Answerer>
+void compete(std::string const &name) {
+	compete_in_answers<Answerer>(name);
+	compete_in_loading<Loader>(name);
 }
 
 } // namespace config_bench

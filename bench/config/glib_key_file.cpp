@@ -62,8 +62,7 @@ private:
 };
 
 void describe() {
-	compete_in_loading<key_file>(name);
-	compete_in_answers<key_file>(name);
+	compete<key_file, key_file>(name);
 }
 
 bench::entry const added(&describe);

@@ -61,8 +61,7 @@ private:
 };
 
 void describe() {
-	compete_in_loading<ini_settings>(name);
-	compete_in_answers<asked_settings>(name);
+	compete<ini_settings, asked_settings>(name);
 }
 
 bench::entry const added(&describe);
