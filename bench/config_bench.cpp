@@ -76,8 +76,13 @@ void describe() {
 	bench::limit(load_name, "GKeyFile", 1, 0.25);
 	bench::limit(load_name, "Boost.PropertyTree", 0.5);
 	bench::limit(load_name, "QSettings", 0.5);
-	for (std::string const suffix : {" of a small file", " of the 1 MB"}) {
-		bench::limit(text_name + suffix, "GKeyFile", 1, 0.5);
+	std::string const small = " of a small file";
+	std::string const large = " of the 1 MB";
+	bench::limit(text_name + small, "GKeyFile", 1, 0.5);
+	// Here a look-up waits for memory, and what that costs differs by a third from one run to
+	// the next, with the pages that a process happens to get.
+	bench::limit(text_name + large, "GKeyFile", 1.25, 0.5);
+	for (std::string const &suffix : {small, large}) {
 		bench::limit(number_name + suffix, "Boost.PropertyTree", 0.5);
 	}
 	bench::bound(memory_name, 12);
