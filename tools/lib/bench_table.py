@@ -98,7 +98,8 @@ class Area:
         lines = [f"## {self.name}", ""]
         lines.append(f"{processor()}, {self.cores} cores, {system()}. {compiler}. {self.date}. "
                      f"{self.repetitions} repetitions.")
-        if peers:
+        competitors = {name for times in self.times.values() for name in times}
+        if peers and any(name != LIBRARY and not name.startswith("std::") for name in competitors):
             lines.append(f"Peers: {peers}.")
         lines.append("")
         lines += table(["operation", LIBRARY, "peer", "its time", f"{LIBRARY} / peer", "limit", "met"], "lrlrrll",
