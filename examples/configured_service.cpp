@@ -143,6 +143,7 @@ bool load(config_manager &manager) {
 	}
 	// A file that doesn't open is passed over in silence, and the next candidate is taken.
 	ustring8 const wanted = wanted_file(manager);
+	// NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): the manager holds the item
 	if (!wanted.empty() && wanted != file.get_filename()) {
 		std::cerr << "configured_service: \"" << wanted << "\" can't be read\n";
 		return false;

@@ -26,6 +26,7 @@ bool takes_others_along(child_map::mapped_type const &node) noexcept {
 
 entry &child_map::block::put(unsigned int index, entry &&added) noexcept {
 	detail::name_head const head = detail::head_of(added.first);
+	// NOLINTNEXTLINE(clang-analyzer-cplusplus.PlacementNew): the entries lie behind the block itself
 	entry *const made = ::new (entries() + count) entry(std::move(added));
 	std::copy_backward(heads() + index, heads() + count, heads() + count + 1);
 	std::copy_backward(numbers() + index, numbers() + count, numbers() + count + 1);

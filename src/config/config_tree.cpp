@@ -14,7 +14,6 @@
 namespace QUOR_2_9::config {
 namespace {
 
-using detail::key_path;
 using generic::abilities::create_dynamic;
 using strings::ustring8;
 using node_pointer = memory::pointers::rc_pointer<config_tree>;

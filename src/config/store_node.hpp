@@ -20,7 +20,7 @@ memory::pointers::rc_pointer<config_tree> make_branch(key_path &path, unsigned i
 	if (path.at_end()) {
 		return node_pointer(create_dynamic<config_tree>(flags, value));
 	}
-	node_pointer const branch(create_dynamic<config_tree>());
+	node_pointer branch(create_dynamic<config_tree>());
 	config_tree *last = branch.get();
 	while (true) {
 		std::string_view const name = path.next();
