@@ -1,62 +1,32 @@
 #include <quor/generic/convert/bin_str.hpp>
 
+#include <bit>
 #include <cstddef>
-#include <cstdint>
 #include <cstring>
-#include <type_traits>
 
 #include <quor/debug/invalid_parameter.hpp>
+
+#include "generic/convert/byte_image.hpp"
 
 namespace QUOR_2_9::generic::convert {
 namespace {
 
-static_assert(sizeof(float) == 4 && sizeof(double) == 8, "floating numbers are IEEE 754 singles and doubles");
+using detail::load_number;
 
-/// The unsigned number of the same width, whose value doesn't depend on the target's byte order.
-template <class Number>
-using bits_of = std::conditional_t<sizeof(Number) == 2, std::uint16_t,
-                                   std::conditional_t<sizeof(Number) == 4, std::uint32_t, std::uint64_t>>;
+constexpr std::endian least_significant_first = std::endian::little;
+constexpr std::endian most_significant_first = std::endian::big;
 
-/// The place of the byte with the given significance.
-struct most_significant_first {
-	static constexpr std::size_t place(std::size_t significance, std::size_t width) noexcept {
-		return width - 1 - significance;
-	}
-};
-
-struct least_significant_first {
-	static constexpr std::size_t place(std::size_t significance, std::size_t /*width*/) noexcept {
-		return significance;
-	}
-};
-
-template <class Order, class Number>
+template <std::endian Order, class Number>
 std::string encode(Number const &value) {
-	bits_of<Number> bits;
-	std::memcpy(&bits, &value, sizeof bits);
-	std::string bytes(sizeof bits, '\0');
-	for (std::size_t i = 0; i != sizeof bits; ++i) {
-		bytes[Order::place(i, sizeof bits)] = static_cast<char>(static_cast<unsigned char>(bits >> (8 * i)));
-	}
+	std::string bytes(sizeof value, '\0');
+	detail::store_number<Order>(value, bytes.data());
 	return bytes;
 }
 
-template <class Number, class Order>
-Number decode(char const *bytes) noexcept {
-	bits_of<Number> bits = 0;
-	for (std::size_t i = 0; i != sizeof bits; ++i) {
-		bits_of<Number> const byte = static_cast<unsigned char>(bytes[Order::place(i, sizeof bits)]);
-		bits = static_cast<bits_of<Number>>(bits | byte << (8 * i));
-	}
-	Number value;
-	std::memcpy(&value, &bits, sizeof value);
-	return value;
-}
-
 /// Decodes a string of at least `Wanted` bytes; a shorter one is 0.
-template <class Number, class Order, std::size_t Wanted = sizeof(Number)>
+template <class Number, std::endian Order, std::size_t Wanted = sizeof(Number)>
 Number decode(std::string const &bytes) noexcept {
-	return bytes.size() < Wanted ? Number() : decode<Number, Order>(bytes.data());
+	return bytes.size() < Wanted ? Number() : load_number<Number, Order>(bytes.data());
 }
 
 /// Decodes from 4 bytes on and stops where the last of the 8 lies behind the terminating
@@ -70,7 +40,7 @@ double decode_short_double(std::string const &bytes) {
 	}
 	char image[8] = {};
 	std::memcpy(image, bytes.data(), bytes.size() < sizeof image ? bytes.size() : sizeof image);
-	return decode<double, least_significant_first>(image);
+	return load_number<double, least_significant_first>(image);
 }
 
 } // namespace
@@ -81,7 +51,7 @@ double decode_short_double(std::string const &bytes) {
 	return encode<order>(value);                                                                                       \
   }                                                                                                                    \
   number bin_str_to_##word(char const *bytes) noexcept {                                                               \
-	return decode<number, order>(bytes);                                                                               \
+	return load_number<number, order>(bytes);                                                                          \
   }
 
 /// The same with the decoder from a string.
