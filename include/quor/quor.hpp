@@ -57,6 +57,10 @@
 #include <quor/memory/pointers/shared_pointer.hpp>
 #include <quor/parser/xml_parser.hpp>
 #include <quor/parser/xml_token_stream.hpp>
+#include <quor/serialization/labeled_serialize_buffer.hpp>
+#include <quor/serialization/serialize_binary_buf.hpp>
+#include <quor/serialization/serialize_buffer.hpp>
+#include <quor/serialization/serialize_text_buf.hpp>
 #include <quor/strings/case.hpp>
 #include <quor/strings/native_wide.hpp>
 #include <quor/strings/replace_all.hpp>

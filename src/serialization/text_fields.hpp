@@ -1,0 +1,38 @@
+#ifndef QUOR_SRC_SERIALIZATION_TEXT_FIELDS_HPP
+#define QUOR_SRC_SERIALIZATION_TEXT_FIELDS_HPP
+
+#include <string>
+#include <string_view>
+
+#include <quor/types/widths.hpp>
+
+/// The fields of `serialize_text_buf`, read from any text that a position walks through and
+/// appended to any string. Texts end with a zero byte behind their last one, or are parts of
+/// such a text.
+namespace QUOR_2_9::serialization::detail {
+
+/// The byte behind each field.
+inline constexpr char separator = '\x01';
+
+/// The bytes up to the next separator, and the position behind it. Without one, the bytes up to
+/// the end, and `no_position`.
+std::string_view take_field(std::string_view text, types::uint32 &position) noexcept;
+
+/// A field as a number. Never throws.
+types::int32 field_int32(std::string_view field) noexcept;
+
+/// The bytes behind the count that a string starts with, cut at the end of the text, and the
+/// position behind the separator that ends them. A negative count gives all that is left and
+/// moves the position back by its amount, less 1. Empty at `no_position`.
+std::string_view take_framed(std::string_view text, types::uint32 &position, types::int32 count) noexcept;
+
+/// A string: its count and what `take_framed` gives for it.
+std::string_view take_string(std::string_view text, types::uint32 &position) noexcept;
+
+/// Appends a string with its count. `value` may be `text` itself, which is framed as it was
+/// before the call; it may not be another part of it. Nothing is changed where there is no memory.
+void append_framed(std::string &text, std::string const &value);
+
+} // namespace QUOR_2_9::serialization::detail
+
+#endif
