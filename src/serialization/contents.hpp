@@ -37,11 +37,23 @@ inline void assign_bytes(std::string &contents, char const *data, int length) {
 /// them moves nothing and can't fail.
 inline void make_room(std::string &contents, std::size_t further) {
 	std::size_t const capacity = contents.capacity();
-	if (capacity - contents.size() >= further) {
-		return;
+	if (capacity - contents.size() < further) {
+		std::size_t const wanted = contents.size() + further;
+		contents.reserve(std::max(wanted, std::min(2 * capacity, contents.max_size())));
 	}
-	std::size_t const wanted = contents.size() + further;
-	contents.reserve(std::max(wanted, std::min(2 * capacity, contents.max_size())));
+}
+
+/// Appends where there is no room for it.
+void append_growing(std::string &contents, char const *bytes, std::size_t count);
+
+/// Appends a few bytes. The test for room is that of the string, which so drops out of it.
+template <std::size_t Count>
+void append_few(std::string &contents, char const (&bytes)[Count]) {
+	if (contents.size() + Count <= contents.capacity()) {
+		contents.append(bytes, Count);
+	} else {
+		append_growing(contents, bytes, Count);
+	}
 }
 
 } // namespace QUOR_2_9::serialization::detail

@@ -1,14 +1,15 @@
 #include <quor/serialization/serialize_text_buf.hpp>
 
 #include <algorithm>
-#include <cstring>
+#include <cstddef>
 #include <limits>
 #include <memory>
 #include <string_view>
+#include <utility>
 
-#include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
 
+#include "generic/convert/decimal_digits.hpp"
 #include "generic/convert/decimal_text.hpp"
 #include "serialization/contents.hpp"
 #include "serialization/text_fields.hpp"
@@ -25,12 +26,10 @@ using types::uint64;
 
 namespace {
 
-/// Appends what a conversion writes, and the separator.
 template <class Number>
-void append_digits(std::string &text, Number value, void (*write)(Number, char *, unsigned int) noexcept) {
-	char digits[66];
-	write(value, digits, 10);
-	std::size_t const length = std::strlen(digits);
+void append_digits(std::string &text, Number value) {
+	char digits[convert::detail::decimal_digits_size + 1];
+	std::size_t const length = convert::detail::decimal_digits(value, digits);
 	digits[length] = detail::separator;
 	text.append(digits, length + 1);
 }
@@ -43,36 +42,84 @@ void append_floating(std::string &text, double value, uint32 precision) {
 	text.append(digits, length + 1);
 }
 
-uint32 length_of(std::string_view field) noexcept {
-	return static_cast<uint32>(std::min<std::size_t>(field.size(), detail::no_position));
+/// A plain number in the range of its type.
+template <class Number>
+Number clipped(int32 value) noexcept {
+	using limits = std::numeric_limits<Number>;
+	if (std::cmp_less(value, limits::min())) {
+		return limits::min();
+	}
+	return std::cmp_greater(value, limits::max()) ? limits::max() : static_cast<Number>(value);
 }
 
 /// A field as a number, by a conversion that finds the radix and reports nothing. An empty field
 /// is not shown to it.
 template <class Number>
-Number field_number(std::string_view field, Number (*read)(char const *, uint32, types::radix_t::base, bool)) {
-	return field.empty() ? Number() : read(field.data(), length_of(field), types::radix_t::of(0), false);
+Number field_number(std::string_view field, Number (*conversion)(char const *, uint32, types::radix_t::base, bool)) {
+	auto const length = static_cast<uint32>(std::min<std::size_t>(field.size(), detail::no_position));
+	return length == 0 ? Number() : conversion(field.data(), length, types::radix_t::detect, false);
 }
 
-/// A field as a number of 8 or 16 bits. The narrow conversions don't give negative numbers as
-/// they are, so these are read without their sign.
+/// The same for 8 or 16 bits. The narrow conversions clip negative numbers that are in range, so
+/// these are read without their sign.
 template <class Number>
-Number narrow_field_number(std::string_view field, Number (*read)(char const *, uint32, types::radix_t::base, bool)) {
+Number narrow_field_number(std::string_view field,
+                           Number (*conversion)(char const *, uint32, types::radix_t::base, bool)) {
 	std::size_t sign = 0;
 	while (sign != field.size() && support::is_blank(field[sign])) {
 		++sign;
 	}
 	if (sign == field.size() || field[sign] != '-') {
-		return field_number(field, read);
+		return field_number(field, conversion);
 	}
 	std::string_view const digits = field.substr(sign + 1);
-	if (digits.empty() || !(support::is_digit(digits[0]) || digits[0] == '\\')) {
+	if (digits.empty() || (!support::is_digit(digits[0]) && digits[0] != '\\')) {
 		return 0;
 	}
+	using limits = std::numeric_limits<Number>;
 	uint64 const magnitude = field_number<uint64>(digits, convert::str_to_uint64);
-	constexpr Number smallest = std::numeric_limits<Number>::min();
-	constexpr uint64 largest_magnitude = static_cast<uint64>(std::numeric_limits<Number>::max()) + 1;
-	return magnitude >= largest_magnitude ? smallest : static_cast<Number>(-static_cast<int64>(magnitude));
+	if (std::cmp_greater(magnitude, limits::max())) {
+		return limits::min();
+	}
+	return static_cast<Number>(-static_cast<int>(magnitude));
+}
+
+signed char convert_field(std::string_view field, signed char /*type*/) {
+	return narrow_field_number<signed char>(field, convert::str_to_int8);
+}
+
+short convert_field(std::string_view field, short /*type*/) {
+	return narrow_field_number<short>(field, convert::str_to_int16);
+}
+
+/// The smallest value has a text of its own.
+int64 convert_field(std::string_view field, int64 /*type*/) {
+	return field == "-O" ? std::numeric_limits<int64>::min() : field_number<int64>(field, convert::str_to_int64);
+}
+
+unsigned char convert_field(std::string_view field, unsigned char /*type*/) {
+	return field_number<unsigned char>(field, convert::str_to_uint8);
+}
+
+unsigned short convert_field(std::string_view field, unsigned short /*type*/) {
+	return field_number<unsigned short>(field, convert::str_to_uint16);
+}
+
+uint32 convert_field(std::string_view field, uint32 /*type*/) {
+	return field_number<uint32>(field, convert::str_to_uint32);
+}
+
+uint64 convert_field(std::string_view field, uint64 /*type*/) {
+	return field_number<uint64>(field, convert::str_to_uint64);
+}
+
+template <class Number>
+Number read_number(std::string_view text, uint32 &position) {
+	int32 plain = 0;
+	if (detail::take_plain_number(text, position, plain)) {
+		return clipped<Number>(plain);
+	}
+	return convert_field(detail::take_field(text, position), Number());
 }
 
 } // namespace
@@ -109,35 +156,35 @@ std::string const &serialize_text_buf::as_str() const {
 }
 
 void serialize_text_buf::append_int8(signed char const &value) {
-	append_digits<int32>(buffer, value, convert::ltoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_int16(short const &value) {
-	append_digits<int32>(buffer, value, convert::ltoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_int32(int32 const &value) {
-	append_digits<int32>(buffer, value, convert::ltoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_int64(int64 const &value) {
-	append_digits<int64>(buffer, value, convert::lltoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_uint8(unsigned char const &value) {
-	append_digits<uint32>(buffer, value, convert::ultoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_uint16(unsigned short const &value) {
-	append_digits<uint32>(buffer, value, convert::ultoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_uint32(uint32 const &value) {
-	append_digits<uint32>(buffer, value, convert::ultoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_uint64(uint64 const &value) {
-	append_digits<uint64>(buffer, value, convert::ulltoa);
+	append_digits(buffer, value);
 }
 
 void serialize_text_buf::append_float(float const &value, uint32 const &precision) {
@@ -157,39 +204,35 @@ void serialize_text_buf::append_buffer(serialize_buffer const &value) {
 }
 
 signed char serialize_text_buf::read_int8() const {
-	return narrow_field_number<signed char>(detail::take_field(buffer, read_pos), convert::str_to_int8);
+	return read_number<signed char>(buffer, read_pos);
 }
 
 short serialize_text_buf::read_int16() const {
-	return narrow_field_number<short>(detail::take_field(buffer, read_pos), convert::str_to_int16);
+	return read_number<short>(buffer, read_pos);
 }
 
 int32 serialize_text_buf::read_int32() const {
-	return detail::field_int32(detail::take_field(buffer, read_pos));
+	return detail::take_int32(buffer, read_pos);
 }
 
 int64 serialize_text_buf::read_int64() const {
-	std::string_view const field = detail::take_field(buffer, read_pos);
-	if (field == "-O") {
-		return std::numeric_limits<int64>::min();
-	}
-	return field_number<int64>(field, convert::str_to_int64);
+	return read_number<int64>(buffer, read_pos);
 }
 
 unsigned char serialize_text_buf::read_uint8() const {
-	return field_number<unsigned char>(detail::take_field(buffer, read_pos), convert::str_to_uint8);
+	return read_number<unsigned char>(buffer, read_pos);
 }
 
 unsigned short serialize_text_buf::read_uint16() const {
-	return field_number<unsigned short>(detail::take_field(buffer, read_pos), convert::str_to_uint16);
+	return read_number<unsigned short>(buffer, read_pos);
 }
 
 uint32 serialize_text_buf::read_uint32() const {
-	return field_number<uint32>(detail::take_field(buffer, read_pos), convert::str_to_uint32);
+	return read_number<uint32>(buffer, read_pos);
 }
 
 uint64 serialize_text_buf::read_uint64() const {
-	return field_number<uint64>(detail::take_field(buffer, read_pos), convert::str_to_uint64);
+	return read_number<uint64>(buffer, read_pos);
 }
 
 // A number beyond the range of a single narrows to an infinity.

@@ -1,13 +1,13 @@
 #include "serialization/text_fields.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
-#include <cstring>
 
 #include <quor/generic/convert/str_to_x.hpp>
 
+#include "generic/convert/decimal_digits.hpp"
 #include "serialization/contents.hpp"
+#include "support/ascii.hpp"
 
 namespace QUOR_2_9::serialization::detail {
 
@@ -30,7 +30,33 @@ std::string_view take_field(std::string_view text, uint32 &position) noexcept {
 	return rest.substr(0, length);
 }
 
-int32 field_int32(std::string_view field) noexcept {
+bool take_plain_number(std::string_view text, uint32 &position, int32 &number) noexcept {
+	constexpr std::ptrdiff_t most_digits = 9;
+	if (position >= text.size() || text.size() >= no_position) {
+		return false;
+	}
+	char const *at = text.data() + position;
+	char const *const end = text.data() + text.size();
+	bool const negative = *at == '-';
+	char const *const first = at + (negative ? 1 : 0);
+	int32 value = 0;
+	for (at = first; at != end && support::is_digit(*at) && at - first != most_digits; ++at) {
+		value = value * 10 + (*at - '0');
+	}
+	if (at == first || at == end || *at != separator || (*first == '0' && at - first != 1)) {
+		return false;
+	}
+	position = static_cast<uint32>(at + 1 - text.data());
+	number = negative ? -value : value;
+	return true;
+}
+
+int32 take_int32(std::string_view text, uint32 &position) noexcept {
+	int32 number = 0;
+	if (take_plain_number(text, position, number)) {
+		return number;
+	}
+	std::string_view const field = take_field(text, position);
 	auto const length = static_cast<uint32>(std::min<std::size_t>(field.size(), no_position));
 	return length == 0 ? 0 : generic::convert::str_to_int32(field.data(), length, 0, false);
 }
@@ -50,16 +76,15 @@ std::string_view take_framed(std::string_view text, uint32 &position, int32 coun
 }
 
 std::string_view take_string(std::string_view text, uint32 &position) noexcept {
-	std::string_view const field = take_field(text, position);
-	return take_framed(text, position, field_int32(field));
+	int32 const count = take_int32(text, position);
+	return take_framed(text, position, count);
 }
 
 void append_framed(std::string &text, std::string const &value) {
 	std::size_t const size = value.size();
-	char count[24];
-	char *end = std::to_chars(count, count + sizeof count, size).ptr;
-	*end++ = separator;
-	auto const count_size = static_cast<std::size_t>(end - count);
+	char count[generic::convert::detail::decimal_digits_size + 1];
+	std::size_t count_size = generic::convert::detail::decimal_digits(size, count);
+	count[count_size++] = separator;
 	make_room(text, count_size + size + 1);
 	text.append(count, count_size);
 	text.append(value.data(), size);

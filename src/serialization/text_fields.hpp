@@ -18,8 +18,12 @@ inline constexpr char separator = '\x01';
 /// the end, and `no_position`.
 std::string_view take_field(std::string_view text, types::uint32 &position) noexcept;
 
-/// A field as a number. Never throws.
-types::int32 field_int32(std::string_view field) noexcept;
+/// A field that is a plain decimal number as it is mostly written: up to nine digits, no leading
+/// zero, a sign or none, and a separator. False leaves the position for `take_field`.
+bool take_plain_number(std::string_view text, types::uint32 &position, types::int32 &number) noexcept;
+
+/// A field as a number of 32 bits, as `generic::convert::str_to_int32` reads it.
+types::int32 take_int32(std::string_view text, types::uint32 &position) noexcept;
 
 /// The bytes behind the count that a string starts with, cut at the end of the text, and the
 /// position behind the separator that ends them. A negative count gives all that is left and

@@ -15,7 +15,6 @@
 /// @since 2.9
 
 #include <string>
-#include <string_view>
 
 #include <quor/export.hpp>
 #include <quor/serialization/serialize_buffer.hpp>
@@ -126,12 +125,6 @@ public:
 	serialize_binary_buf *clone() const override;
 
 private:
-	template <class Number>
-	void put(Number const &value);
-	template <class Number>
-	Number get() const noexcept;
-	bool get_text(std::string_view &text) const noexcept;
-
 	std::string buffer;
 	mutable types::uint32 read_pos = 0;
 };
