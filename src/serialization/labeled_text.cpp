@@ -1,0 +1,84 @@
+#include <utility>
+#include <vector>
+
+#include "serialization/framed_reader.hpp"
+#include "serialization/framed_writer.hpp"
+#include "serialization/labeled_record.hpp"
+
+namespace QUOR_2_9::serialization::detail {
+namespace {
+
+/// What is put behind the label of a group.
+constexpr char group_mark = ' ';
+
+/// The text of a record that is being read.
+struct open_text {
+	framed_reader reader;
+	labeled_text_buffer *record;
+};
+
+/// A record that is being written, from its last label to its first.
+struct open_record {
+	label_entries::entry_map::const_reverse_iterator next;
+	label_entries::entry_map::const_reverse_iterator end;
+	/// How many bytes were written before.
+	std::size_t mark;
+};
+
+void put_value(framed_writer &out, std::string_view label, types::variant const &value) {
+	out.put(value.as_string());
+	out.put(label);
+}
+
+} // namespace
+
+void labeled_record::parse(std::string_view text, labeled_text_buffer &record) {
+	std::vector<open_text> open{{framed_reader(text), &record}};
+	while (!open.empty()) {
+		auto &[reader, target] = open.back();
+		std::string_view const key = reader.read();
+		if (key.empty()) {
+			open.pop_back();
+		} else if (key.back() != group_mark) {
+			store_value(*target, key, std::string(reader.read()));
+		} else {
+			labeled_text_buffer &group = store_group(*target, key);
+			std::string_view const group_text = reader.read();
+			if (open.size() <= labeled_text_buffer::nesting_limit) {
+				open.push_back({framed_reader(group_text), &group});
+			}
+		}
+	}
+}
+
+std::string labeled_record::render(labeled_text_buffer const &record, std::string &&memory) {
+	framed_writer out(std::move(memory));
+	std::vector<open_record> open;
+	if (auto const *const map = map_if_any(record); map != nullptr) {
+		open.push_back({map->rbegin(), map->rend(), 0});
+	}
+	while (!open.empty()) {
+		auto &[next, end, mark] = open.back();
+		if (next == end) {
+			std::size_t const size = out.size() - mark;
+			open.pop_back();
+			if (!open.empty()) {
+				auto const &[label, entry] = *open.back().next++;
+				out.begin_string(size);
+				out.put(label, {&group_mark, 1});
+				if (entry.value != types::nil) {
+					put_value(out, label, entry.value);
+				}
+			}
+		} else if (auto const *const nested = map_if_any(next->second.group); nested != nullptr) {
+			out.end_string();
+			open.push_back({nested->rbegin(), nested->rend(), out.size()});
+		} else {
+			put_value(out, next->first, next->second.value);
+			++next;
+		}
+	}
+	return out.take();
+}
+
+} // namespace QUOR_2_9::serialization::detail
