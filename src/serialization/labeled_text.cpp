@@ -1,3 +1,4 @@
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -10,6 +11,9 @@ namespace {
 
 /// What is put behind the label of a group.
 constexpr char group_mark = ' ';
+
+/// How many levels are opened without asking for memory again.
+constexpr std::size_t usual_depth = 8;
 
 /// The text of a record that is being read.
 struct open_text {
@@ -33,7 +37,9 @@ void put_value(framed_writer &out, std::string_view label, types::variant const 
 } // namespace
 
 void labeled_record::parse(std::string_view text, labeled_text_buffer &record) {
-	std::vector<open_text> open{{framed_reader(text), &record}};
+	std::vector<open_text> open;
+	open.reserve(usual_depth);
+	open.push_back({framed_reader(text), &record});
 	while (!open.empty()) {
 		auto &[reader, target] = open.back();
 		std::string_view const key = reader.read();
@@ -54,6 +60,7 @@ void labeled_record::parse(std::string_view text, labeled_text_buffer &record) {
 std::string labeled_record::render(labeled_text_buffer const &record, std::string &&memory) {
 	framed_writer out(std::move(memory));
 	std::vector<open_record> open;
+	open.reserve(usual_depth);
 	if (auto const *const map = map_if_any(record); map != nullptr) {
 		open.push_back({map->rbegin(), map->rend(), 0});
 	}
