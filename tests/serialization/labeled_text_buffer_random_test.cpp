@@ -21,6 +21,7 @@ using quor::types::nil;
 using quor::types::variant;
 using quor_reference::labeled_record;
 using quor_test::difference;
+using quor_test::hides_labels;
 using quor_test::spelled;
 
 class generator {
@@ -179,17 +180,6 @@ TEST(labeled_text_random, operations_agree_with_a_plain_record) {
 		groups += both.ours.has_group("a") ? 1U : 0U;
 	}
 	EXPECT_GT(groups, 50U);
-}
-
-// Whether a label without a name hides what lies behind it.
-bool hides_labels(labeled_record const &record) {
-	for (auto const &entry : record.entries) {
-		bool const is_value = entry.group.entries.empty() || entry.value != nil;
-		if ((entry.label.empty() && is_value) || hides_labels(entry.group)) {
-			return true;
-		}
-	}
-	return false;
 }
 
 TEST(labeled_text_random, reading_and_writing_is_stable) {

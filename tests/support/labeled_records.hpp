@@ -61,6 +61,15 @@ inline std::string difference(quor_reference::labeled_record const &expected,
 	return found.as_str() == expected.as_str() ? "" : "text " + spelled(found.as_str());
 }
 
+// Whether an empty label with a value stands in a record or in one of its groups: it ends the
+// reading of what is written.
+inline bool hides_labels(quor_reference::labeled_record const &record) {
+	return std::any_of(record.entries.begin(), record.entries.end(), [](auto const &entry) {
+		bool const is_value = entry.group.entries.empty() || entry.value != QUOR_2_9::types::nil;
+		return (entry.label.empty() && is_value) || hides_labels(entry.group);
+	});
+}
+
 } // namespace quor_test
 
 #endif
