@@ -1,0 +1,198 @@
+#ifndef QUOR_BENCH_SERIALIZATION_COMPETITION_HPP
+#define QUOR_BENCH_SERIALIZATION_COMPETITION_HPP
+
+// What each competitor does with the same records.
+//
+// One of values in a fixed order:
+//
+//     struct archive {
+//         using record_type = record;                what it writes, its strings of its own type
+//         using bytes_type = std::string;            what it keeps in memory
+//         class writer {
+//             void write(record_type const &one);
+//             ... bytes() const;                     all bytes, without a copy where it can
+//         };
+//         class reader {
+//             explicit reader(bytes_type const &bytes);
+//             void read(record_type &to);            whatever `to` held
+//         };
+//     };
+//
+// One of records with labels:
+//
+//     struct archive {
+//         static std::string render(labels const &from);
+//         static labels parse(std::string const &text);
+//     };
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/frame.hpp"
+#include "serialization/records.hpp"
+
+namespace serialization_bench {
+
+/// A record with strings of another type.
+template <class Text>
+record_of<Text> with_text_of(record const &from) {
+	return {from.a,
+	        from.b,
+	        from.c,
+	        from.d,
+	        from.e,
+	        from.f,
+	        from.g,
+	        from.h,
+	        from.x,
+	        from.y,
+	        Text(from.name.c_str()),
+	        Text(from.note.c_str())};
+}
+
+template <class Archive>
+using own_records = std::vector<typename Archive::record_type>;
+
+template <class Archive>
+own_records<Archive> own(records const &from) {
+	own_records<Archive> result;
+	for (record const &one : from) {
+		result.push_back(with_text_of<decltype(result.front().name)>(one));
+	}
+	return result;
+}
+
+template <class Archive>
+typename Archive::bytes_type bytes_of(own_records<Archive> const &from) {
+	typename Archive::writer out;
+	for (auto const &one : from) {
+		out.write(one);
+	}
+	return typename Archive::bytes_type(out.bytes());
+}
+
+/// Reading gives what was written, also into records that hold something else.
+template <class Archive>
+void check(std::string const &name, own_records<Archive> const &from) {
+	auto const bytes = bytes_of<Archive>(from);
+	auto found = own_records<Archive>(from.rbegin(), from.rend());
+	typename Archive::reader in(bytes);
+	for (std::size_t i = 0; i != from.size(); ++i) {
+		in.read(found[i]);
+		if (!(found[i] == from[i])) {
+			bench::disagree(name + ", record " + std::to_string(i));
+		}
+	}
+}
+
+template <class Archive>
+void write_many(benchmark::State &state, own_records<Archive> const &from) {
+	for (auto _ : state) {
+		typename Archive::writer out;
+		for (auto const &one : from) {
+			out.write(one);
+		}
+		auto &&bytes = out.bytes();
+		benchmark::DoNotOptimize(bytes.data());
+	}
+	state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(from.size()));
+}
+
+template <class Archive>
+void read_many(benchmark::State &state, own_records<Archive> const &from) {
+	auto const bytes = bytes_of<Archive>(from);
+	own_records<Archive> to(from.size());
+	for (auto _ : state) {
+		typename Archive::reader in(bytes);
+		for (auto &one : to) {
+			in.read(one);
+		}
+		benchmark::DoNotOptimize(to.data());
+		benchmark::ClobberMemory();
+	}
+	state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(from.size()));
+}
+
+template <class Archive>
+void write_one(benchmark::State &state, own_records<Archive> const &from) {
+	std::size_t index = 0;
+	for (auto _ : state) {
+		typename Archive::writer out;
+		out.write(from[index]);
+		auto &&bytes = out.bytes();
+		benchmark::DoNotOptimize(bytes.data());
+		index = index + 1 == from.size() ? 0 : index + 1;
+	}
+}
+
+template <class Archive>
+void read_one(benchmark::State &state, own_records<Archive> const &from) {
+	std::vector<typename Archive::bytes_type> bytes;
+	for (auto const &one : from) {
+		bytes.push_back(bytes_of<Archive>({one}));
+	}
+	typename Archive::record_type to;
+	std::size_t index = 0;
+	for (auto _ : state) {
+		typename Archive::reader in(bytes[index]);
+		in.read(to);
+		benchmark::DoNotOptimize(&to);
+		benchmark::ClobberMemory();
+		index = index + 1 == bytes.size() ? 0 : index + 1;
+	}
+}
+
+/// The operations are called "<kind>, write ..." and "<kind>, read ...".
+template <class Archive>
+void compete(std::string const &kind, std::string const &name) {
+	struct input {
+		records const &list;
+		char const *strings;
+	};
+	for (input const &one : {input{short_records(), ""}, input{long_records(), " with long strings"}}) {
+		auto const list = std::make_shared<own_records<Archive>>(own<Archive>(one.list));
+		check<Archive>(kind + " of " + name, *list);
+		auto const add = [&](std::string const &what, void (*run)(benchmark::State &, own_records<Archive> const &)) {
+			bench::operation(kind + ", " + what + one.strings, name,
+			                 [run, list](benchmark::State &state) { run(state, *list); });
+		};
+		add("write one of 1000 records", &write_many<Archive>);
+		add("read one of 1000 records", &read_many<Archive>);
+		add("write a record alone", &write_one<Archive>);
+		add("read a record alone", &read_one<Archive>);
+	}
+}
+
+template <class Archive>
+void compete_in_labels(std::string const &name) {
+	auto const texts = std::make_shared<std::vector<std::string>>();
+	for (labels const &one : labeled_records()) {
+		texts->push_back(Archive::render(one));
+		if (!(Archive::parse(texts->back()) == one)) {
+			bench::disagree("the labels of " + name);
+		}
+	}
+	bench::operation("labeled, values to text", name, [](benchmark::State &state) {
+		std::size_t index = 0;
+		for (auto _ : state) {
+			std::string const text = Archive::render(labeled_records()[index]);
+			benchmark::DoNotOptimize(text.data());
+			index = (index + 1) % labeled_records().size();
+		}
+	});
+	bench::operation("labeled, text to values", name, [texts](benchmark::State &state) {
+		std::size_t index = 0;
+		for (auto _ : state) {
+			labels const values = Archive::parse((*texts)[index]);
+			benchmark::DoNotOptimize(&values);
+			benchmark::ClobberMemory();
+			index = (index + 1) % texts->size();
+		}
+	});
+}
+
+} // namespace serialization_bench
+
+#endif

@@ -1,0 +1,52 @@
+// QDataStream into a QByteArray. Its byte arrays are the strings, in its own order of bytes.
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
+#include "serialization/competition.hpp"
+
+namespace serialization_bench {
+namespace {
+
+struct data_stream {
+	using record_type = record_of<QByteArray>;
+	using bytes_type = QByteArray;
+
+	class writer {
+	public:
+		void write(record_type const &one) {
+			stream << qint8(one.a) << qint16(one.b) << qint32(one.c) << qint64(one.d) << quint8(one.e) << quint16(one.f)
+			       << quint32(one.g) << quint64(one.h) << one.x << one.y << one.name << one.note;
+		}
+		QByteArray const &bytes() const { return content; }
+
+	private:
+		QByteArray content;
+		QDataStream stream{&content, QIODevice::WriteOnly};
+	};
+
+	class reader {
+	public:
+		explicit reader(QByteArray const &bytes) : stream(bytes) {}
+		void read(record_type &to) {
+			qint64 d = 0;
+			quint64 h = 0;
+			stream >> to.a >> to.b >> to.c >> d >> to.e >> to.f >> to.g >> h >> to.x >> to.y >> to.name >> to.note;
+			to.d = d;
+			to.h = h;
+		}
+
+	private:
+		QDataStream stream;
+	};
+};
+
+void describe() {
+	compete<data_stream>("binary", "QDataStream");
+}
+
+bench::entry const added(&describe);
+
+} // namespace
+} // namespace serialization_bench
