@@ -75,11 +75,6 @@ std::string_view take_framed(std::string_view text, uint32 &position, int32 coun
 	return count < 0 ? rest : rest.substr(0, static_cast<uint32>(count));
 }
 
-std::string_view take_string(std::string_view text, uint32 &position) noexcept {
-	int32 const count = take_int32(text, position);
-	return take_framed(text, position, count);
-}
-
 void append_framed(std::string &text, std::string const &value) {
 	std::size_t const size = value.size();
 	char count[generic::convert::detail::decimal_digits_size + 1];

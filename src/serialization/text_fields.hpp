@@ -30,9 +30,6 @@ types::int32 take_int32(std::string_view text, types::uint32 &position) noexcept
 /// moves the position back by its amount, less 1. Empty at `no_position`.
 std::string_view take_framed(std::string_view text, types::uint32 &position, types::int32 count) noexcept;
 
-/// A string: its count and what `take_framed` gives for it.
-std::string_view take_string(std::string_view text, types::uint32 &position) noexcept;
-
 /// Appends a string with its count. `value` may be `text` itself, which is framed as it was
 /// before the call; it may not be another part of it. Nothing is changed where there is no memory.
 void append_framed(std::string &text, std::string const &value);

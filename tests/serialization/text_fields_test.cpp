@@ -68,13 +68,13 @@ TEST(text_fields, part_of_a_text_is_not_left) {
 	uint32 position = 1;
 	EXPECT_EQ(detail::take_int32(std::string_view(text).substr(0, 3), position), 23);
 	EXPECT_EQ(position, detail::no_position);
-	position = 0;
-	EXPECT_EQ(detail::take_string(std::string_view("2\x01"
+	position = 2;
+	EXPECT_EQ(detail::take_framed(std::string_view("2\x01"
 	                                               "abcd")
 	                                  .substr(0, 4),
-	                              position),
+	                              position, 3),
 	          "ab");
-	EXPECT_EQ(position, 5U);
+	EXPECT_EQ(position, 6U);
 	position = 3;
 	EXPECT_EQ(detail::take_field("abc", position), "");
 	EXPECT_EQ(position, detail::no_position);
