@@ -87,6 +87,74 @@ void check_config_slots() {
 	check("slot of config::config_dispatch::clone", 6, slot_of(&dispatch::clone));
 }
 
+void check_buffer_slots() {
+	using buffer = quor::serialization::serialize_buffer;
+	std::size_t slot = 2;
+	auto const next = [&slot](char const *what, auto member) { check(what, slot++, slot_of(member)); };
+	next("slot of serialize_buffer::assign of a pointer",
+	     static_cast<buffer &(buffer::*)(char const *, int)>(&buffer::assign));
+	next("slot of serialize_buffer::assign of a string",
+	     static_cast<buffer &(buffer::*)(std::string const &)>(&buffer::assign));
+	next("slot of serialize_buffer::assign of a buffer",
+	     static_cast<buffer &(buffer::*)(buffer const &)>(&buffer::assign));
+	next("slot of serialize_buffer::as_str", &buffer::as_str);
+	next("slot of serialize_buffer::append_int8", &buffer::append_int8);
+	next("slot of serialize_buffer::append_int16", &buffer::append_int16);
+	next("slot of serialize_buffer::append_int32", &buffer::append_int32);
+	next("slot of serialize_buffer::append_int64", &buffer::append_int64);
+	next("slot of serialize_buffer::append_uint8", &buffer::append_uint8);
+	next("slot of serialize_buffer::append_uint16", &buffer::append_uint16);
+	next("slot of serialize_buffer::append_uint32", &buffer::append_uint32);
+	next("slot of serialize_buffer::append_uint64", &buffer::append_uint64);
+	next("slot of serialize_buffer::append_float", &buffer::append_float);
+	next("slot of serialize_buffer::append_double", &buffer::append_double);
+	next("slot of serialize_buffer::append_string", &buffer::append_string);
+	next("slot of serialize_buffer::append_buffer", &buffer::append_buffer);
+	next("slot of serialize_buffer::read_int8", &buffer::read_int8);
+	next("slot of serialize_buffer::read_int16", &buffer::read_int16);
+	next("slot of serialize_buffer::read_int32", &buffer::read_int32);
+	next("slot of serialize_buffer::read_int64", &buffer::read_int64);
+	next("slot of serialize_buffer::read_uint8", &buffer::read_uint8);
+	next("slot of serialize_buffer::read_uint16", &buffer::read_uint16);
+	next("slot of serialize_buffer::read_uint32", &buffer::read_uint32);
+	next("slot of serialize_buffer::read_uint64", &buffer::read_uint64);
+	next("slot of serialize_buffer::read_float", &buffer::read_float);
+	next("slot of serialize_buffer::read_double", &buffer::read_double);
+	next("slot of serialize_buffer::read_string", &buffer::read_string);
+	next("slot of serialize_buffer::read_buffer", &buffer::read_buffer);
+	next("slot of serialize_buffer::at_end", &buffer::at_end);
+	next("slot of serialize_buffer::reset_read", &buffer::reset_read);
+	next("slot of serialize_buffer::create", &buffer::create);
+	next("slot of serialize_buffer::clone", &buffer::clone);
+}
+
+void check_record_slots() {
+	using record = quor::serialization::labeled_serialize_buffer;
+	using text = std::string const &;
+	std::size_t slot = 2;
+	auto const next = [&slot](char const *what, auto member) { check(what, slot++, slot_of(member)); };
+	next("slot of labeled_serialize_buffer::assign of a pointer",
+	     static_cast<record &(record::*)(char const *, int)>(&record::assign));
+	next("slot of labeled_serialize_buffer::assign of a string",
+	     static_cast<record &(record::*)(text)>(&record::assign));
+	next("slot of labeled_serialize_buffer::assign of a record",
+	     static_cast<record &(record::*)(record const &)>(&record::assign));
+	next("slot of labeled_serialize_buffer::as_str", &record::as_str);
+	next("slot of labeled_serialize_buffer::add_value", &record::add_value);
+	next("slot of labeled_serialize_buffer::create_group", &record::create_group);
+	next("slot of labeled_serialize_buffer::has_label", &record::has_label);
+	next("slot of labeled_serialize_buffer::has_value", &record::has_value);
+	next("slot of labeled_serialize_buffer::has_group", &record::has_group);
+	next("slot of labeled_serialize_buffer::is_empty", &record::is_empty);
+	next("slot of labeled_serialize_buffer::retrieve_value", &record::retrieve_value);
+	next("slot of labeled_serialize_buffer::retrieve_group",
+	     static_cast<record *(record::*)(text)>(&record::retrieve_group));
+	next("slot of labeled_serialize_buffer::retrieve_group to look at",
+	     static_cast<record const *(record::*)(text) const>(&record::retrieve_group));
+	next("slot of labeled_serialize_buffer::create", &record::create);
+	next("slot of labeled_serialize_buffer::clone", &record::clone);
+}
+
 } // namespace
 
 int main() {
@@ -101,8 +169,19 @@ int main() {
 	check("size of i18n::message_t", sizeof(std::vector<int>) + 3 * sizeof(std::string), sizeof(quor::i18n::message_t));
 	check("size of exceptions::overflow_error", 8 + 520 + sizeof(std::string),
 	      sizeof(quor::exceptions::overflow_error));
+	// Two tables, flag and count, then the contents and the read position.
+	constexpr std::size_t counted = 2 * sizeof(void *) + 8;
+	check("size of serialization::serialize_buffer", counted, sizeof(quor::serialization::serialize_buffer));
+	check("size of serialization::labeled_serialize_buffer", counted,
+	      sizeof(quor::serialization::labeled_serialize_buffer));
+	check("size of serialization::serialize_binary_buf", counted + sizeof(std::string) + sizeof(void *),
+	      sizeof(quor::serialization::serialize_binary_buf));
+	check("size of serialization::serialize_text_buf", counted + sizeof(std::string) + sizeof(void *),
+	      sizeof(quor::serialization::serialize_text_buf));
 	check_variant_slots();
 	check_callable_slots();
 	check_config_slots();
+	check_buffer_slots();
+	check_record_slots();
 	return failures;
 }
