@@ -346,18 +346,29 @@ TEST(serialize_text_buf, nested_buffer_is_never_null) {
 	EXPECT_EQ(rest->as_str(), "ab");
 }
 
-// The length of a string is read by the virtual operation.
+// The length of a string is read by the virtual operation, but not behind the end.
 TEST(serialize_text_buf, length_is_read_by_read_int32) {
 	class doubling : public serialize_text_buf {
 	public:
 		using serialize_text_buf::serialize_text_buf;
-		QUOR_2_9::types::int32 read_int32() const override { return 2 * serialize_text_buf::read_int32(); }
+		QUOR_2_9::types::int32 read_int32() const override {
+			++calls;
+			return 2 * serialize_text_buf::read_int32();
+		}
+		mutable int calls = 0;
 	};
 	doubling const buffer(unescaped("1^ab^1^cd^"));
 	EXPECT_EQ(buffer.read_string(), "ab");
 	std::unique_ptr<serialize_buffer> const nested(buffer.read_buffer());
 	EXPECT_EQ(nested->as_str(), "cd");
 	EXPECT_TRUE(buffer.at_end());
+	EXPECT_EQ(buffer.calls, 2);
+	EXPECT_EQ(buffer.read_string(), "");
+	EXPECT_EQ(buffer.calls, 3);
+	EXPECT_EQ(buffer.read_string(), "");
+	std::unique_ptr<serialize_buffer> const nothing(buffer.read_buffer());
+	EXPECT_EQ(nothing->as_str(), "");
+	EXPECT_EQ(buffer.calls, 3);
 }
 
 } // namespace
