@@ -43,6 +43,9 @@ namespace QUOR_2_9::serialization {
 /// read back as a buffer of the reading class. So a binary buffer appended to a text buffer
 /// comes back as a text buffer of binary bytes; assign its `as_str()` to a binary buffer.
 ///
+/// Appending, assigning and copying throw std::bad_alloc, or std::length_error where no string is
+/// that long, and then leave the buffer as it was.
+///
 /// The order of the virtual functions is part of the binary interface. Untrusted input: safe,
 /// no read looks behind the end or throws but for want of memory. Thread-safety: one thread
 /// at a time, also for reading, which moves the read position of a `const` buffer.
