@@ -97,8 +97,8 @@ public:
 	/// entries, by these rules.
 	///
 	/// - A length is read as `str_to_int32` does, with the radix found from the text, so
-	///   that `0x10` is 16 and what is no number 0. The byte behind a string is skipped,
-	///   whatever it is.
+	///   that `0x10` is 16, what is no number 0, and no string longer than 2^31 - 1 bytes.
+	///   The byte behind a string is skipped, whatever it is.
 	/// - An empty key ends the reading.
 	/// - What ends too early gives what is there: a string cut by the end is short, a key
 	///   without a value behind it has the empty text, a length without 0x01 behind it is no
@@ -109,6 +109,7 @@ public:
 	/// - The text of a group is read by the same rules, and its end is that of its text. Groups
 	///   that lie deeper than `nesting_limit` stay empty.
 	///
+	/// What lies behind the first 2^32 - 1 bytes is not read.
 	/// `text` may be a text that this record or one of its groups gave. If memory runs out,
 	/// nothing is changed. Memory is in proportion to the text. @since 2.9
 	labeled_serialize_buffer &assign(std::string const &text) override;
