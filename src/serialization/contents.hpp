@@ -1,7 +1,6 @@
 #ifndef QUOR_SRC_SERIALIZATION_CONTENTS_HPP
 #define QUOR_SRC_SERIALIZATION_CONTENTS_HPP
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -33,13 +32,14 @@ inline void assign_bytes(std::string &contents, char const *data, int length) {
 	}
 }
 
+/// Makes room for so many further bytes where there is none.
+void grow(std::string &contents, std::size_t further);
+
 /// Makes room for so many further bytes, at least doubling what is there, so that appending
 /// them moves nothing and can't fail.
 inline void make_room(std::string &contents, std::size_t further) {
-	std::size_t const capacity = contents.capacity();
-	if (capacity - contents.size() < further) {
-		std::size_t const wanted = contents.size() + further;
-		contents.reserve(std::max(wanted, std::min(2 * capacity, contents.max_size())));
+	if (contents.capacity() - contents.size() < further) {
+		grow(contents, further);
 	}
 }
 

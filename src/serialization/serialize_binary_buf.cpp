@@ -49,6 +49,17 @@ Number get(std::string const &contents, uint32 &position) noexcept {
 	return generic::convert::detail::load_number<Number, std::endian::little>(image);
 }
 
+/// The longest text that a string keeps in itself.
+constexpr std::size_t short_size = 15;
+
+/// A short text, copied with what lies behind it: a copy of a size that is not known in advance
+/// costs several times as much.
+std::string short_text(char const *bytes, std::size_t size) {
+	std::string result(bytes, short_size);
+	result.erase(size);
+	return result;
+}
+
 /// Reads the count of a string and moves behind its bytes; `text` is what there is of them.
 /// False where nothing is left, before or behind the count.
 bool get_text(std::string const &contents, uint32 &position, std::string_view &text) noexcept {
@@ -191,6 +202,15 @@ double serialize_binary_buf::read_double() const {
 }
 
 std::string serialize_binary_buf::read_string() const {
+	std::uint64_t const start = std::uint64_t(read_pos) + sizeof(uint32);
+	if (start + short_size <= buffer.size() && start + short_size < detail::no_position) {
+		char const *const bytes = buffer.data() + start;
+		auto const count = generic::convert::detail::load_number<uint32, std::endian::little>(bytes - sizeof(uint32));
+		if (count <= short_size) {
+			read_pos = static_cast<uint32>(start + count);
+			return short_text(bytes, count);
+		}
+	}
 	std::string_view text;
 	return get_text(buffer, read_pos, text) ? std::string(text) : std::string();
 }
