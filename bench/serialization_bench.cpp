@@ -49,20 +49,11 @@ struct buffer_archive {
 	class reader {
 	public:
 		explicit reader(std::string const &bytes) : buffer(bytes) {}
-		void read(record &to) {
+		record read() {
 			serialize_buffer const &in = buffer;
-			to.a = in.read_int8();
-			to.b = in.read_int16();
-			to.c = in.read_int32();
-			to.d = in.read_int64();
-			to.e = in.read_uint8();
-			to.f = in.read_uint16();
-			to.g = in.read_uint32();
-			to.h = in.read_uint64();
-			to.x = in.read_double();
-			to.y = in.read_double();
-			to.name = in.read_string();
-			to.note = in.read_string();
+			return {in.read_int8(),   in.read_int16(),  in.read_int32(),  in.read_int64(),
+			        in.read_uint8(),  in.read_uint16(), in.read_uint32(), in.read_uint64(),
+			        in.read_double(), in.read_double(), in.read_string(), in.read_string()};
 		}
 
 	private:
@@ -121,7 +112,7 @@ struct labeled_archive {
 // Every limit of a kind holds for records in a row and alone, with short and long strings.
 void limit(std::string const &kind, std::string const &peer, double most, double aim = 0) {
 	for (char const *what :
-	     {"write one of 1000 records", "read one of 1000 records", "write a record alone", "read a record alone"}) {
+	     {"write one of 256 records", "read one of 256 records", "write a record alone", "read a record alone"}) {
 		for (char const *strings : {"", " with long strings"}) {
 			bench::limit(kind + ", " + what + strings, peer, most, aim);
 		}

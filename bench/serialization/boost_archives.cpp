@@ -48,7 +48,11 @@ struct boost_archive {
 	class reader {
 	public:
 		explicit reader(std::string const &bytes) : stream(bytes), archive(stream, boost::archive::no_header) {}
-		void read(record &to) { archive >> to; }
+		record read() {
+			record result;
+			archive >> result;
+			return result;
+		}
 
 	private:
 		std::istringstream stream;

@@ -57,7 +57,11 @@ struct binary_archive {
 	class reader {
 	public:
 		explicit reader(std::string const &bytes) : stream(bytes), archive(stream) {}
-		void read(record &to) { archive(to); }
+		record read() {
+			record result;
+			archive(result);
+			return result;
+		}
 
 	private:
 		std::istringstream stream;

@@ -29,12 +29,15 @@ struct data_stream {
 	class reader {
 	public:
 		explicit reader(QByteArray const &bytes) : stream(bytes) {}
-		void read(record_type &to) {
+		record_type read() {
+			record_type result;
 			qint64 d = 0;
 			quint64 h = 0;
-			stream >> to.a >> to.b >> to.c >> d >> to.e >> to.f >> to.g >> h >> to.x >> to.y >> to.name >> to.note;
-			to.d = d;
-			to.h = h;
+			stream >> result.a >> result.b >> result.c >> d >> result.e >> result.f >> result.g >> h >> result.x >>
+			    result.y >> result.name >> result.note;
+			result.d = d;
+			result.h = h;
+			return result;
 		}
 
 	private:

@@ -39,9 +39,9 @@ struct record_of {
 using record = record_of<std::string>;
 using records = std::vector<record>;
 
-inline constexpr std::size_t record_count = 1000;
+inline constexpr std::size_t record_count = 256;
 
-/// A thousand records whose strings have at most 15 bytes.
+/// Two hundred and fifty-six records whose strings have at most 15 bytes.
 records const &short_records();
 /// The same with strings of 20 to 60 bytes.
 records const &long_records();
