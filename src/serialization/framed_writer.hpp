@@ -1,8 +1,9 @@
 #ifndef QUOR_SRC_SERIALIZATION_FRAMED_WRITER_HPP
 #define QUOR_SRC_SERIALIZATION_FRAMED_WRITER_HPP
 
-#include <charconv>
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,22 +17,22 @@ namespace QUOR_2_9::serialization::detail {
 /// it is nested in.
 class framed_writer {
 public:
-	/// Takes the memory of `text`, whose bytes are lost.
-	explicit framed_writer(std::string &&text) : m_text(std::move(text)) {
-		m_text.resize(m_text.capacity());
-		m_begin = m_text.size();
-	}
+	/// Takes the memory of `text`, whose bytes are lost. A text of the same size as `text` is
+	/// written without moving a byte.
+	explicit framed_writer(std::string &&text) noexcept : m_text(std::move(text)), m_begin(m_text.size()) {}
 
 	/// How many bytes are written.
 	std::size_t size() const noexcept { return m_text.size() - m_begin; }
 
 	/// Puts the string `text` with `tail` behind it in front, with its length.
 	void put(std::string_view text, std::string_view tail = {}) {
-		make_room(text.size() + tail.size() + most_length);
+		char digits[number_field_size];
+		std::string_view const length = number_field(text.size() + tail.size(), digits);
+		make_room(length.size() + text.size() + tail.size() + 1);
 		put_bytes({&separator, 1});
 		put_bytes(tail);
 		put_bytes(text);
-		put_length(text.size() + tail.size());
+		put_bytes(length);
 	}
 
 	/// Puts the end of a string in front, whose bytes are put next, and then its length.
@@ -42,8 +43,10 @@ public:
 
 	/// Puts the length of a string in front, all of whose bytes are written.
 	void begin_string(std::size_t size) {
-		make_room(most_length);
-		put_length(size);
+		char digits[number_field_size];
+		std::string_view const length = number_field(size, digits);
+		make_room(length.size());
+		put_bytes(length);
 	}
 
 	/// The text.
@@ -53,29 +56,30 @@ public:
 	}
 
 private:
-	/// Digits of a length, and the separators.
-	static constexpr std::size_t most_length = 22;
-
+	/// Makes room in front, at least doubling what there is; more than that of what the string
+	/// has is not touched, as it may be much larger than the text.
 	void make_room(std::size_t count) {
 		if (m_begin >= count) {
 			return;
 		}
-		std::string larger(2 * m_text.size() + count, '\0');
-		larger.replace(larger.size() - size(), size(), m_text, m_begin, size());
-		m_begin += larger.size() - m_text.size();
-		m_text.swap(larger);
+		std::size_t const written = size();
+		std::size_t const begin = m_begin;
+		std::size_t const wanted = 2 * m_text.size() + count;
+		if (m_text.capacity() >= written + count) {
+			m_text.resize(std::min(wanted, m_text.capacity()));
+			m_begin = m_text.size() - written;
+			std::memmove(m_text.data() + m_begin, m_text.data() + begin, written);
+		} else {
+			std::string larger(wanted, '\0');
+			m_begin = wanted - written;
+			m_text.copy(larger.data() + m_begin, written, begin);
+			m_text.swap(larger);
+		}
 	}
 
 	void put_bytes(std::string_view bytes) noexcept {
 		m_begin -= bytes.size();
 		bytes.copy(m_text.data() + m_begin, bytes.size());
-	}
-
-	void put_length(std::size_t length) noexcept {
-		char digits[most_length];
-		char *const end = std::to_chars(digits, digits + most_length - 1, length).ptr;
-		*end = separator;
-		put_bytes({digits, static_cast<std::size_t>(end + 1 - digits)});
 	}
 
 	std::string m_text;

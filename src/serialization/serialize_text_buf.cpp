@@ -9,7 +9,6 @@
 
 #include <quor/generic/convert/str_to_x.hpp>
 
-#include "generic/convert/decimal_digits.hpp"
 #include "generic/convert/decimal_text.hpp"
 #include "serialization/contents.hpp"
 #include "serialization/text_fields.hpp"
@@ -28,10 +27,8 @@ namespace {
 
 template <class Number>
 void append_digits(std::string &text, Number value) {
-	char digits[convert::detail::decimal_digits_size + 1];
-	std::size_t const length = convert::detail::decimal_digits(value, digits);
-	digits[length] = detail::separator;
-	text.append(digits, length + 1);
+	char digits[detail::number_field_size];
+	text.append(detail::number_field(value, digits));
 }
 
 void append_floating(std::string &text, double value, uint32 precision) {

@@ -5,7 +5,6 @@
 
 #include <quor/generic/convert/str_to_x.hpp>
 
-#include "generic/convert/decimal_digits.hpp"
 #include "serialization/contents.hpp"
 #include "support/ascii.hpp"
 
@@ -77,11 +76,10 @@ std::string_view take_framed(std::string_view text, uint32 &position, int32 coun
 
 void append_framed(std::string &text, std::string const &value) {
 	std::size_t const size = value.size();
-	char count[generic::convert::detail::decimal_digits_size + 1];
-	std::size_t count_size = generic::convert::detail::decimal_digits(size, count);
-	count[count_size++] = separator;
-	make_room(text, count_size + size + 1);
-	text.append(count, count_size);
+	char digits[number_field_size];
+	std::string_view const count = number_field(size, digits);
+	make_room(text, count.size() + size + 1);
+	text.append(count);
 	text.append(value.data(), size);
 	text.push_back(separator);
 }

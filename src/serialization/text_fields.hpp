@@ -1,10 +1,13 @@
 #ifndef QUOR_SRC_SERIALIZATION_TEXT_FIELDS_HPP
 #define QUOR_SRC_SERIALIZATION_TEXT_FIELDS_HPP
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include <quor/types/widths.hpp>
+
+#include "generic/convert/decimal_digits.hpp"
 
 /// The fields of `serialize_text_buf`, read from any text that a position walks through and
 /// appended to any string. Texts end with a zero byte behind their last one, or are parts of
@@ -13,6 +16,17 @@ namespace QUOR_2_9::serialization::detail {
 
 /// The byte behind each field.
 inline constexpr char separator = '\x01';
+
+/// Room for every integer as a field.
+inline constexpr std::size_t number_field_size = generic::convert::detail::decimal_digits_size + 1;
+
+/// Writes an integer as a field: its decimal digits and the separator.
+template <class Number>
+std::string_view number_field(Number value, char (&bytes)[number_field_size]) noexcept {
+	std::size_t const length = generic::convert::detail::decimal_digits(value, bytes);
+	bytes[length] = separator;
+	return {bytes, length + 1};
+}
 
 /// The bytes up to the next separator, and the position behind it. Without one, the bytes up to
 /// the end, and `no_position`.

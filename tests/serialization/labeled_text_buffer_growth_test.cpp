@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -192,6 +193,52 @@ TEST(labeled_text_growth, asking_allocates_nothing) {
 	// Short texts in the memory of the last one need only the list of open groups.
 	EXPECT_EQ(record.as_str().size(), 24U);
 	EXPECT_EQ(counter.count(), 1U);
+}
+
+// Memory of a large text that was written before is not gone through again each time. It would
+// take many seconds.
+TEST(labeled_text_growth, small_texts_after_a_large_one_are_quick) {
+	labeled_text_buffer record;
+	record.add_value("v", std::string(64000000, 'x'));
+	EXPECT_EQ(record.as_str().size(), 64000014U);
+	record.add_value("v", 1);
+	auto const start = std::chrono::steady_clock::now();
+	for (int i = 0; i != 5000; ++i) {
+		ASSERT_EQ(record.as_str().size(), 8U);
+	}
+	EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+// Texts that grow and shrink are written in the memory of those before.
+TEST(labeled_text_growth, texts_of_changing_size_are_written_in_the_same_memory) {
+	labeled_text_buffer record;
+	std::string const value(1000, 'x');
+	for (std::size_t size = 0; size != value.size(); ++size) {
+		for (std::size_t const part : {size, size / 2, value.size() - size, std::size_t(0), size}) {
+			std::string const text = value.substr(0, part);
+			record.add_value("a", text);
+			record.create_group("g")->add_value("b", text);
+			std::string const inner = framed("1SbS") + framed_string(text);
+			ASSERT_EQ(record.as_str(), framed("1SaS") + framed_string(text) + framed("2Sg S") + framed_string(inner));
+		}
+	}
+	quor::types::variant const large(value);
+	quor::types::variant const small("");
+	std::string const label = "a";
+	auto const written = [&](quor::types::variant const &changed) {
+		record.add_value(label, changed);
+		quor_test::allocation_counter const counter;
+		record.as_str();
+		return counter.count();
+	};
+	written(small);
+	std::size_t const for_small = written(small);
+	written(large);
+	std::size_t const for_large = written(large);
+	for (int i = 0; i != 10; ++i) {
+		EXPECT_EQ(written(small), for_small);
+		EXPECT_EQ(written(large), for_large);
+	}
 }
 
 // A chain of groups that is deeper than the call stack could go.
