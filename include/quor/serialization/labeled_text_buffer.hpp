@@ -57,8 +57,8 @@ struct labeled_record;
 ///
 /// A label with a value and a group that isn't empty gives two pairs, the value's first. One
 /// with neither gives a pair with empty text, and so has a value when it is read back. Values
-/// come back as `std::string`, whatever they were. Pairs behind an empty label with a value
-/// are written but not read, as an empty label ends the reading.
+/// come back as `std::string`, whatever they were. An empty label is written as all others are,
+/// but ends the reading unless it has a group alone: the text from there on is not read.
 ///
 /// A value that can also be counted: `rc_pointer` shares it. Copies are deep and carry count
 /// and mark of their source; assignment leaves the target's own. Records of any nesting can be

@@ -45,7 +45,8 @@ namespace QUOR_2_9::serialization {
 ///
 /// Reading damaged data: at the end a number is 0, a string empty and a buffer empty, never
 /// null. A string whose count is too large is what there is. A negative count gives all that is
-/// left, and moves the read position back by its amount, less 1: "-1|ab" gives "ab" for ever.
+/// left, and moves the read position back by its amount, less 1: "-4|ab" gives "ab" for ever, so
+/// don't read strings from untrusted text until `at_end()`, but as many as are expected.
 /// A count without a separator gives an empty string and leaves nothing to read. Positions have
 /// 32 bits: what lies behind the first 2^32 - 1 bytes is not read, a position that would be
 /// beyond is behind the end for good.
