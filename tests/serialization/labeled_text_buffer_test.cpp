@@ -47,6 +47,37 @@ TEST(labeled_text_buffer, new_record_is_empty) {
 	EXPECT_EQ(record.retrieve_group(""), nullptr);
 }
 
+TEST(labeled_text_buffer, texts_of_every_kind_compile) {
+	using quor::strings::ustring8;
+	char const *const pointer = "1\x01p\x01"
+	                            "1\x01v\x01";
+	std::string const text = pointer;
+	ustring8 const utf8 = pointer;
+	EXPECT_EQ(labeled_text_buffer(pointer).as_str(), text);
+	EXPECT_EQ(labeled_text_buffer(utf8).as_str(), text);
+	labeled_text_buffer record;
+	labeled_serialize_buffer &base = record;
+	EXPECT_EQ(record.assign(pointer).assign(utf8).assign(text).as_str(), text);
+	EXPECT_EQ(base.assign(pointer).assign(utf8).as_str(), text);
+	EXPECT_EQ((record = utf8).as_str(), text);
+	EXPECT_EQ((base = pointer).as_str(), text);
+	EXPECT_EQ((base = utf8).as_str(), text);
+	EXPECT_EQ(record.add_value(ustring8("u"), 0), labeled_serialize_buffer::value_stored);
+	EXPECT_EQ(record.add_value("u", 1L), labeled_serialize_buffer::value_replaced);
+	record.add_value("u", 1UL);
+	record.add_value("u", 1ULL);
+	record.add_value("u", 1.5F);
+	record.add_value("u", utf8);
+	record.add_value("u", pointer);
+	record.create_group(ustring8("g"))->create_group("h")->add_value("i", 'c');
+	labeled_text_buffer const &constant = record;
+	EXPECT_TRUE(constant.has_label(ustring8("u")));
+	EXPECT_TRUE(constant.has_value("u"));
+	EXPECT_TRUE(constant.has_group(std::string("g")));
+	EXPECT_EQ(constant.retrieve_value(ustring8("u")).as_string(), text);
+	EXPECT_EQ(constant.retrieve_group("g")->retrieve_group("h")->retrieve_value("i").as_int(), 'c');
+}
+
 TEST(labeled_text_buffer, labels_are_stripped_of_four_bytes) {
 	struct row {
 		std::string given;
@@ -470,6 +501,27 @@ public:
 
 	std::vector<std::string> texts;
 };
+
+// A class with a text of its own.
+class stating_record : public labeled_text_buffer {
+public:
+	std::string const &as_str() const override { return text; }
+
+	std::string text = framed("1StS1SvS");
+};
+
+TEST(labeled_text_buffer, another_class_is_asked_for_its_text) {
+	stating_record source;
+	source.add_value("a", 1);
+	labeled_serialize_buffer const &base = source;
+	labeled_text_buffer record;
+	record.assign(base);
+	EXPECT_EQ(text_of(record), "1StS1SvS");
+	static_cast<labeled_serialize_buffer &>(record) = base;
+	EXPECT_EQ(text_of(record), "1StS1SvS");
+	record.assign(source);
+	EXPECT_EQ(text_of(record), "1SaS1S1S");
+}
 
 TEST(labeled_text_buffer, all_texts_go_through_one_operation) {
 	watching_record record;

@@ -200,6 +200,25 @@ TEST(serialize_binary_buf, too_large_a_length_gives_what_there_is) {
 	}
 }
 
+TEST(serialize_binary_buf, strings_of_any_length_stand_before_any_rest) {
+	for (std::size_t size = 0; size != 20; ++size) {
+		for (std::size_t rest = 0; rest != 20; ++rest) {
+			SCOPED_TRACE(std::to_string(size) + " and " + std::to_string(rest));
+			std::string const text = std::string("0\x00\xFF\x01-abcdefghijklmnopqrs", 23).substr(0, size);
+			serialize_binary_buf buffer;
+			buffer.append_int8(1);
+			buffer.append_string(text);
+			buffer.assign(buffer.as_str() + std::string(rest, '\x05'));
+			EXPECT_EQ(buffer.read_int8(), 1);
+			EXPECT_EQ(buffer.read_string(), text);
+			for (std::size_t i = 0; i != rest; ++i) {
+				EXPECT_EQ(buffer.read_int8(), 5);
+			}
+			EXPECT_TRUE(buffer.at_end());
+		}
+	}
+}
+
 TEST(serialize_binary_buf, position_moves_by_the_declared_length) {
 	serialize_binary_buf buffer(bytes("\x0A\0\0\0ab", 6));
 	EXPECT_EQ(buffer.read_string(), "ab");

@@ -9,6 +9,7 @@
 #include <quor/memory/pointers/rc_pointer.hpp>
 #include <quor/serialization/serialize_binary_buf.hpp>
 #include <quor/serialization/serialize_text_buf.hpp>
+#include <quor/strings/ustring.hpp>
 
 #include "serialization/slots.hpp"
 
@@ -106,6 +107,7 @@ TYPED_TEST(any_buffer, literals_of_every_kind_compile) {
 	made.append_float(1.5F, 9);
 	made.append_double(2.5, 17U);
 	made.append_string("text");
+	made.append_string(QUOR_2_9::strings::ustring8("utf8"));
 	EXPECT_EQ(made.read_int8(), 'x');
 	EXPECT_EQ(made.read_int16(), 1);
 	EXPECT_EQ(made.read_int32(), 2);
@@ -118,7 +120,12 @@ TYPED_TEST(any_buffer, literals_of_every_kind_compile) {
 	EXPECT_EQ(made.read_float(), 1.5F);
 	EXPECT_EQ(made.read_double(), 2.5);
 	EXPECT_EQ(made.read_string(), "text");
+	EXPECT_EQ(made.read_string(), "utf8");
 	EXPECT_TRUE(made.at_end());
+	QUOR_2_9::strings::ustring8 const utf8("utf8");
+	EXPECT_EQ(TypeParam(utf8).as_str(), "utf8");
+	EXPECT_EQ((made = utf8).as_str(), "utf8");
+	EXPECT_EQ(made.assign("").assign(utf8).as_str(), "utf8");
 }
 
 TYPED_TEST(any_buffer, new_buffer_is_empty_and_held_by_nobody) {

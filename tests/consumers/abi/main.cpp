@@ -178,6 +178,8 @@ int main() {
 	      sizeof(quor::serialization::serialize_binary_buf));
 	check("size of serialization::serialize_text_buf", counted + sizeof(std::string) + sizeof(void *),
 	      sizeof(quor::serialization::serialize_text_buf));
+	check("size of serialization::labeled_text_buffer", counted + sizeof(std::string) + sizeof(void *),
+	      sizeof(quor::serialization::labeled_text_buffer));
 	check_variant_slots();
 	check_callable_slots();
 	check_config_slots();
