@@ -1,5 +1,6 @@
 // The binary and the text format: values in a fixed order, one code for both.
 
+#include <cstddef>
 #include <stdexcept>
 
 #include "formats.hpp"
@@ -20,6 +21,24 @@ void store(place const &from, serialize_buffer &out) {
 	out.append_double(from.longitude, 17);
 	out.append_float(from.height, 9);
 }
+
+// What is read can't be more than what is there: with damaged lengths, text can be read
+// again and again.
+class allowance {
+public:
+	explicit allowance(serialize_buffer const &in) : left(in.as_str().size()) {}
+
+	/// @throws std::runtime_error when bytes that were read aren't there.
+	void take(std::size_t bytes) {
+		if (bytes >= left) {
+			throw std::runtime_error("is damaged");
+		}
+		left -= bytes + 1; // each field takes a byte beside its content
+	}
+
+private:
+	std::size_t left;
+};
 
 place load_place(serialize_buffer const &in) {
 	place to;
@@ -59,11 +78,13 @@ person load_person(serialize_buffer const &in) {
 	to.favourite = in.read_uint8() != 0;
 	to.met = in.read_int64();
 	to.note = in.read_string();
-	// The number may be anything; what is there to read is not.
+	// The number is a promise: the loop ends where the data does.
+	allowance allowed(in);
 	for (unsigned int left = in.read_uint16(); left != 0 && !in.at_end(); --left) {
 		phone one;
 		one.kind = in.read_string();
 		one.number = in.read_string();
+		allowed.take(one.kind.size() + one.number.size());
 		to.phones.push_back(one);
 	}
 	// At the end a binary buffer gives null for an empty one, a text buffer an empty one.
@@ -95,9 +116,11 @@ book load_book(serialize_buffer const &in) {
 	}
 	book to;
 	uint32 left = in.read_uint32();
+	allowance allowed(in);
 	for (; left != 0 && !in.at_end(); --left) {
 		buffer_pointer const one(in.read_buffer());
 		if (one) {
+			allowed.take(one->as_str().size());
 			to.push_back(load_person(*one));
 		}
 	}

@@ -20,8 +20,8 @@ quor_example_test(address_book_older_labeled address_book 0 ARGUMENTS labeled lo
   OUTPUT address_book/older.txt)
 
 # Files that are no books, or damaged ones.
-foreach(book IN ITEMS cut.binary cut.text cut.labeled empty.labeled huge_count.binary negative_length.text
-        negative_length.labeled older.binary no_such_file.text)
+foreach(book IN ITEMS cut.binary cut.text cut.labeled empty.labeled endless.text endless_phones.text huge_count.binary
+        negative_length.text negative_length.labeled older.binary no_such_file.text)
   string(REGEX MATCH "^([^.]*)\\.(.*)$" parts ${book})
   quor_example_test(address_book_${CMAKE_MATCH_1}_${CMAKE_MATCH_2} address_book 1
     ARGUMENTS ${CMAKE_MATCH_2} load ${books}/${book} ERRORS address_book/${CMAKE_MATCH_1}_${CMAKE_MATCH_2}.txt)
