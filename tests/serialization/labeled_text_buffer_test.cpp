@@ -229,6 +229,24 @@ TEST(labeled_text_buffer, as_str_can_be_asked_for_again) {
 	EXPECT_EQ(text_of(record), "1SaS0SS2Sg S8S1SbS1S2SS");
 }
 
+TEST(labeled_text_buffer, assign_empties_the_text_that_was_written) {
+	labeled_text_buffer const other = read("1SbS1S2S");
+	labeled_serialize_buffer const &base = other;
+	labeled_text_buffer record;
+	std::string const &text = record.as_str();
+	record.add_value("a", 1);
+	record.as_str();
+	record.assign(framed("1SaS1S1S"));
+	EXPECT_EQ(text, "");
+	record.as_str();
+	record.assign(other);
+	EXPECT_EQ(text, "");
+	record.as_str();
+	record.assign(base);
+	EXPECT_EQ(text, "");
+	EXPECT_EQ(text_of(record), "1SbS1S2S");
+}
+
 TEST(labeled_text_buffer, groups_texts_outlive_that_of_their_record) {
 	labeled_text_buffer record;
 	labeled_serialize_buffer *const group = record.create_group("g");

@@ -2,6 +2,7 @@
 
 #include "serialization/text_fields.hpp"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -61,6 +62,19 @@ TEST(text_fields, binary_positions_stay_behind_all) {
 	EXPECT_EQ(detail::advanced(0xFFFFFFFB, 4), 0xFFFFFFFFU);
 	EXPECT_EQ(detail::advanced(0xFFFFFFFF, 0), 0xFFFFFFFFU);
 	EXPECT_EQ(detail::advanced(0xFFFFFFFF, 8), 0xFFFFFFFFU);
+}
+
+// Contents of which only the size is asked.
+TEST(text_fields, no_position_is_the_end_of_all_contents) {
+	if constexpr (sizeof(std::size_t) > 4) {
+		std::string_view const large("", std::size_t(0xFFFFFFFF) + 2);
+		EXPECT_TRUE(detail::is_at_end(large, detail::no_position));
+		EXPECT_FALSE(detail::is_at_end(large, detail::no_position - 1));
+	}
+	EXPECT_TRUE(detail::is_at_end("", 0));
+	EXPECT_FALSE(detail::is_at_end("a", 0));
+	EXPECT_TRUE(detail::is_at_end("a", 1));
+	EXPECT_TRUE(detail::is_at_end("a", detail::no_position));
 }
 
 TEST(text_fields, part_of_a_text_is_not_left) {
