@@ -62,7 +62,9 @@ struct buffer_archive {
 };
 
 struct labeled_archive {
-	static std::string render(labels const &from) {
+	using record_type = labeled_text_buffer;
+
+	static labeled_text_buffer record_of(labels const &from) {
 		labeled_text_buffer record;
 		labeled_serialize_buffer &owner = *record.create_group("owner");
 		owner.add_value("name", from.owner.name);
@@ -87,11 +89,13 @@ struct labeled_archive {
 		backup.add_value("keep_days", from.backup.keep_days);
 		backup.add_value("ratio", from.backup.ratio);
 		backup.add_value("compress", from.backup.compress);
-		return record.as_str();
+		return record;
 	}
 
-	static labels parse(std::string const &text) {
-		labeled_text_buffer const record(text);
+	static std::string render(labeled_text_buffer const &from) { return from.as_str(); }
+	static labeled_text_buffer parse(std::string const &text) { return {text}; }
+
+	static labels values_of(labeled_text_buffer const &record) {
 		labeled_serialize_buffer const &owner = *record.retrieve_group("owner");
 		labeled_serialize_buffer const &screen = *record.retrieve_group("screen");
 		labeled_serialize_buffer const &backup = *record.retrieve_group("backup");
@@ -109,13 +113,13 @@ struct labeled_archive {
 	}
 };
 
-// Every limit of a kind holds for records in a row and alone, with short and long strings.
-void limit(std::string const &kind, std::string const &peer, double most, double aim = 0) {
-	for (char const *what :
+// The limits of a kind hold for records in a row and alone; with long strings, whose time goes
+// to the heap when they are read, the buffers shall be faster and the limit is an aim.
+void limit(std::string const &kind, std::string const &peer, double most, double aim) {
+	for (std::string const what :
 	     {"write one of 256 records", "read one of 256 records", "write a record alone", "read a record alone"}) {
-		for (char const *strings : {"", " with long strings"}) {
-			bench::limit(kind + ", " + what + strings, peer, most, aim);
-		}
+		bench::limit(kind + ", " + what, peer, most, aim);
+		bench::limit(kind + ", " + what + " with long strings", peer, 1, most);
 	}
 }
 
@@ -150,12 +154,15 @@ void describe() {
 	count_allocations<serialize_binary_buf>("binary");
 	count_allocations<serialize_text_buf>("text");
 
-	limit("binary", "cereal", 1.0 / 3);
-	limit("binary", "Boost.Serialization", 1.0 / 3);
-	limit("binary", "QDataStream", 1.0 / 6);
+	limit("binary", "cereal", 1.0 / 3, 1.0 / 4);
+	limit("binary", "Boost.Serialization", 1.0 / 3, 1.0 / 4);
+	limit("binary", "Boost.Serialization, bare", 1.0 / 2, 1.0 / 3);
+	limit("binary", "QDataStream", 1.0 / 6, 1.0 / 8);
 	limit("text", "Boost.Serialization", 1.0 / 2, 1.0 / 4);
-	bench::limit("labeled, values to text", "cereal JSON", 1);
-	bench::limit("labeled, text to values", "cereal JSON", 1);
+	bench::limit(render_name, "cereal JSON", 1, 0.5);
+	bench::limit(parse_name, "cereal JSON", 1, 0.5);
+	bench::limit(values_to_text_name, "cereal JSON", 1.5, 1);
+	bench::limit(text_to_values_name, "cereal JSON", 1, 0.5);
 }
 
 bench::entry const added(&describe);

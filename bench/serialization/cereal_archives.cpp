@@ -69,7 +69,13 @@ struct binary_archive {
 	};
 };
 
+// Reads into and writes from the values themselves.
 struct json_archive {
+	using record_type = labels;
+
+	static labels const &record_of(labels const &from) { return from; }
+	static labels const &values_of(labels const &from) { return from; }
+
 	static std::string render(labels const &from) {
 		std::ostringstream stream;
 		{
