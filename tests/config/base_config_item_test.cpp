@@ -373,7 +373,7 @@ TEST(base_config_item, a_failing_assignment_changes_nothing) {
 	EXPECT_THROW(target = source, char const *);
 	EXPECT_EQ(target.get_id(), "target");
 	EXPECT_EQ(listing_of(target), (entries{value("k", "1")}));
-	EXPECT_THROW(open_config_item const copy(source), char const *);
+	EXPECT_THROW(open_config_item{source}, char const *);
 }
 
 TEST(base_config_item, queries_are_const) {

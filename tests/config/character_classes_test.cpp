@@ -6,7 +6,9 @@
 
 namespace {
 
-using namespace QUOR_2_9::config;
+using QUOR_2_9::config::is_blank_char;
+using QUOR_2_9::config::is_key_separator;
+using QUOR_2_9::config::is_token_delimiter;
 
 // Every byte is in the class or not, as the list says; zero is in none.
 template <class Predicate>

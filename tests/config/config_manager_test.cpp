@@ -247,6 +247,7 @@ TEST(config_manager_copies, share_items_and_dispatch) {
 	config_manager manager;
 	manager.init(logged_dispatch(log));
 	{
+		// NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is tested
 		config_manager const copy(manager);
 		EXPECT_EQ(1, log.alive);
 		EXPECT_TRUE(copy.get_config_item("user item") == manager.get_config_item("user item"));

@@ -59,6 +59,7 @@ TEST(config_manager_threads, one_loaded_manager_is_read_at_once) {
 				manager.get_key_value_array("server", server, true);
 				EXPECT_EQ(1u, server.size());
 				EXPECT_EQ("enviroment", manager.get_config_item("enviroment")->get_id());
+				// NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is tested
 				config_manager const copy(manager);
 				EXPECT_EQ("alpha", copy.get_value("hosts").as_string());
 				config_manager assigned;

@@ -134,7 +134,7 @@ TEST(config_sources, large_texts_are_loaded_copied_and_destroyed) {
 
 TEST(config_sources, warnings_are_linear) {
 	constexpr std::size_t small = 4096;
-	std::size_t bytes[2];
+	std::size_t bytes[2] = {};
 	for (std::size_t round : {0U, 1U}) {
 		quor_test::cout_capture const capture;
 		bytes[round] =

@@ -36,7 +36,7 @@ std::string check_writer(config_tree const &tree) {
 	auto const nodes = quor_test::nodes_of(tree);
 	reference::cfg_written const expected = quor_test::slowly_written(nodes);
 	quor_test::stop_handler const stops(quor_test::on_stop::returns);
-	std::string const text = QUOR_2_9::config::detail::config_file_text(nodes);
+	std::string text = QUOR_2_9::config::detail::config_file_text(nodes);
 	check(stops.count() == expected.stops, "stops of the writer");
 	check(text == expected.text, "the text is the reference's");
 	return text;

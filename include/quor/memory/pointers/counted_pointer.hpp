@@ -94,6 +94,7 @@ public:
 	T &operator*() const noexcept { return *m_object; }
 
 	/// Access to the object's members; the pointer must not be empty. @since 2.9
+	// NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it can't follow the count
 	T *operator->() const noexcept { return m_object; }
 
 	/// Whether an object is held. @since 2.9
