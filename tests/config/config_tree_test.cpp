@@ -13,7 +13,6 @@ namespace {
 using QUOR_2_9::config::config_tree;
 using QUOR_2_9::strings::ustring8;
 using QUOR_2_9::types::nil;
-using QUOR_2_9::types::variant;
 using namespace std::string_literals;
 
 ustring8 text_at(config_tree const &tree, ustring8 const &key) {
@@ -199,25 +198,8 @@ TEST(config_tree, set_node_takes_values_of_its_own) {
 
 TEST(config_tree, children_are_in_the_order_of_unsigned_bytes) {
 	config_tree tree;
-	std::vector<std::string> const sorted = {"",
-	                                         "\0"s,
-	                                         "\0\0"s,
-	                                         "0",
-	                                         "1",
-	                                         "10",
-	                                         "2",
-	                                         "_",
-	                                         "a",
-	                                         "a\0"s,
-	                                         "a1",
-	                                         "aa",
-	                                         "b",
-	                                         "z",
-	                                         "\x7F",
-	                                         "\x80",
-	                                         "\xFF",
-	                                         "\xFF"
-	                                         "a"};
+	std::vector<std::string> const sorted = {"",     "\0"s, "\0\0"s, "0", "1", "10",   "2",    "_",    "a",
+	                                         "a\0"s, "a1",  "aa",    "b", "z", "\x7F", "\x80", "\xFF", "\xFF\x61"};
 	for (auto it = sorted.rbegin(); it != sorted.rend(); ++it) {
 		tree.set_node(*it, 1, 0);
 	}

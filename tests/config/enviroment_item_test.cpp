@@ -14,7 +14,6 @@ namespace {
 using quor::config::base_config_item;
 using quor::config::enviroment_item;
 using quor_test::config_entry;
-using quor_test::head;
 using quor_test::listing_of;
 using quor_test::passage;
 using quor_test::string_block;

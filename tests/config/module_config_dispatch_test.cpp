@@ -17,7 +17,6 @@ using quor::config::enviroment_item;
 using quor::config::file_item;
 using quor::config::module_config_dispatch;
 using quor::config::user_item;
-using quor::generic::argument;
 using quor::generic::varg_list;
 using quor::strings::ustring16;
 using quor::strings::ustring8;

@@ -12,7 +12,6 @@
 
 namespace {
 
-using quor::config::base_config_item;
 using quor::config::commandline_item;
 using quor::config::config_dispatch;
 using quor::config::config_manager;
@@ -159,11 +158,13 @@ protected:
 	std::string files(std::vector<std::string> const &arguments, std::vector<std::string> const &environment,
 	                  ustring8 const &config_file) {
 		std::vector<char const *> argv{"program.exe"};
+		argv.reserve(arguments.size() + 2);
 		for (std::string const &argument : arguments) {
 			argv.push_back(argument.c_str());
 		}
 		argv.push_back(nullptr);
 		std::vector<char const *> envp;
+		envp.reserve(environment.size() + 1);
 		for (std::string const &entry : environment) {
 			envp.push_back(entry.c_str());
 		}

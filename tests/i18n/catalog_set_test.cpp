@@ -89,7 +89,7 @@ TEST_F(catalog_set, best_language_wins_whatever_the_order_in_the_file) {
 		}
 		write("app.xmc", content);
 		for (auto const &[request, accepted] : requests) {
-			SCOPED_TRACE(trace + "asked for " + request);
+			SCOPED_TRACE(testing::Message() << trace << "asked for " << request);
 			message_catalogs catalogs;
 			ASSERT_TRUE(catalogs.load(path("app.xmc"), request) == message_catalogs::no_error);
 			for (unsigned subset = 0; subset != 16; ++subset) {
