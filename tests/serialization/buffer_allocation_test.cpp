@@ -18,11 +18,8 @@ namespace {
 using QUOR_2_9::serialization::serialize_binary_buf;
 using QUOR_2_9::serialization::serialize_buffer;
 using QUOR_2_9::serialization::serialize_text_buf;
-using quor_reference::field;
-using quor_reference::field_type;
 using quor_test::allocation_counter;
 using quor_test::allocation_failure;
-using quor_test::append_field;
 
 template <class Buffer>
 class buffer_allocation : public testing::Test {
