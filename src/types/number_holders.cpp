@@ -1,6 +1,5 @@
 #include <charconv>
 #include <cstddef>
-#include <limits>
 #include <ostream>
 #include <string>
 #include <type_traits>
@@ -8,6 +7,7 @@
 #include <quor/generic/convert/ltoa.hpp>
 
 #include "generic/convert/decimal_text.hpp"
+#include "support/whole_part.hpp"
 #include "types/holder.hpp"
 
 namespace QUOR_2_9::types {
@@ -29,26 +29,6 @@ auto plain(T const &value) noexcept {
 	} else {
 		return value;
 	}
-}
-
-/// The whole part of a floating number modulo 2^64; 0 when it isn't finite. Exact: every
-/// step takes bits away from the top.
-template <class Floating>
-uint64 whole_part(Floating value) noexcept {
-	constexpr Floating two_64 = static_cast<Floating>(18446744073709551616.0);
-	Floating magnitude = value < 0 ? -value : value;
-	if (!(magnitude <= std::numeric_limits<Floating>::max())) {
-		return 0;
-	}
-	Floating unit = 1;
-	while (magnitude / unit >= two_64) {
-		unit *= two_64;
-	}
-	for (; unit >= two_64; unit /= two_64) {
-		magnitude -= static_cast<Floating>(static_cast<uint64>(magnitude / unit)) * unit;
-	}
-	auto const whole = static_cast<uint64>(magnitude);
-	return value < 0 ? 0 - whole : whole;
 }
 
 /// Whether a holder writes its number as a stream in the "C" locale would.
@@ -114,7 +94,7 @@ struct number_rules {
 	template <class Target, class Parse>
 	static Target integer(T const &value, Parse const & /*parse*/) noexcept {
 		if constexpr (std::is_floating_point_v<T>) {
-			return static_cast<Target>(whole_part(value));
+			return static_cast<Target>(support::whole_part(value));
 		} else {
 			return static_cast<Target>(plain(value));
 		}
