@@ -1,5 +1,5 @@
-#ifndef QUOR_PLATFORM_POSIX_UNIT_SINK_HPP
-#define QUOR_PLATFORM_POSIX_UNIT_SINK_HPP
+#ifndef QUOR_PLATFORM_POSIX_CODE_PAGES_UNIT_SINK_HPP
+#define QUOR_PLATFORM_POSIX_CODE_PAGES_UNIT_SINK_HPP
 
 #include <algorithm>
 #include <cstddef>
@@ -56,6 +56,15 @@ public:
 		m_at = std::transform(from, from + taken, m_at, [](Source unit) { return static_cast<Unit>(unit); });
 		m_full = taken != count;
 		return !m_full;
+	}
+	/// Room for a whole step of `Count` units; null where there is less.
+	template <std::size_t Count>
+	Unit *claim() noexcept {
+		if (room() < Count) {
+			return nullptr;
+		}
+		m_at += Count;
+		return m_at - Count;
 	}
 	types::int32 result() const noexcept { return m_full ? 0 : static_cast<types::int32>(m_at - m_begin); }
 

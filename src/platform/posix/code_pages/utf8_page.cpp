@@ -1,10 +1,10 @@
-#include "platform/posix/utf8_page.hpp"
+#include "platform/posix/code_pages/utf8_page.hpp"
 
 #include <cstddef>
 
-#include "platform/posix/ascii_run.hpp"
-#include "platform/posix/surrogates.hpp"
-#include "platform/posix/unit_sink.hpp"
+#include "platform/posix/code_pages/ascii_run.hpp"
+#include "platform/posix/code_pages/surrogates.hpp"
+#include "platform/posix/code_pages/unit_sink.hpp"
 
 namespace QUOR_2_9::platform {
 namespace {
