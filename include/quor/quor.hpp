@@ -44,6 +44,7 @@
 #include <quor/generic/convert/bin_str.hpp>
 #include <quor/generic/convert/ltoa.hpp>
 #include <quor/generic/convert/str_to_x.hpp>
+#include <quor/generic/convert/units.hpp>
 #include <quor/generic/varg_list.hpp>
 #include <quor/i18n/catalog.hpp>
 #include <quor/i18n/load_result.hpp>
@@ -73,6 +74,9 @@
 #include <quor/system/file.hpp>
 #include <quor/system/io.hpp>
 #include <quor/traits/function_traits.hpp>
+#include <quor/types/absolute_unit.hpp>
+#include <quor/types/color.hpp>
+#include <quor/types/device_unit.hpp>
 #include <quor/types/nil.hpp>
 #include <quor/types/radix.hpp>
 #include <quor/types/variant.hpp>

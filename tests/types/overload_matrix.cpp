@@ -409,6 +409,43 @@ static_assert(same<decltype(types::variant().as_long()), types::int32> &&
               same<decltype(types::variant().as_uint64()), types::uint64> &&
               same<decltype(types::variant().as_wstring()), wide_string>);
 
+// Lengths: every number kind, units by name and by number.
+template <class Number>
+bool makes_lengths(Number number) {
+	using types::absolute_unit;
+	using types::device_unit;
+	types::basic_absolute_impl<absolute_unit::inch> length(number);
+	length = number;
+	device_unit pixels(number);
+	pixels = number;
+	pixels.assign(number);
+	return length.as_md() == 2 && pixels.as_int32() == 2 &&
+	       convert::to_md(number, absolute_unit::inch).as_md() == 200000 &&
+	       convert::to_md(number, 5).as_md() == 200000 &&
+	       convert::to_md(number, device_unit::dpx, 2).as_md() == 100000 &&
+	       convert::to_md(number, 1, 2).as_md() == 100000 && convert::to_md(pixels, 2).as_md() == 100000 &&
+	       convert::to_device_unit(number, device_unit::dpx) == pixels &&
+	       convert::to_device_unit(number, 1) == pixels &&
+	       convert::to_device_unit(number, absolute_unit::inch, 300) == 600 && convert::to_dpx(number, 5, 300) == 600 &&
+	       convert::to_dpx(number, device_unit::dpx) == pixels &&
+	       convert::to_dpx(number, absolute_unit::inch, types::long_t(300)) == 600 &&
+	       convert::to_dpx(number, 1) == pixels;
+}
+
+void check_units(failures &into) {
+	HOLDS(makes_lengths(2) && makes_lengths(2U) && makes_lengths(2L) && makes_lengths(2UL) && makes_lengths(2LL));
+	HOLDS(makes_lengths(2ULL) && makes_lengths(2.0F) && makes_lengths(2.0) && makes_lengths(types::long_t(2)));
+	HOLDS(makes_lengths(types::int32(2)) && makes_lengths(types::uint32(2)) && makes_lengths(types::int64(2)));
+	HOLDS(makes_lengths(types::ulong_t(2)) && makes_lengths(std::size_t(2)) && makes_lengths(std::int64_t(2)));
+	HOLDS(makes_lengths(static_cast<short>(2)) && makes_lengths(static_cast<unsigned char>(2)) && makes_lengths('\2'));
+	HOLDS(convert::to_md(0.5, 5).as_md() == 50000 && convert::to_md(7, 99).as_md() == 7);
+	HOLDS(types::absolute_unit::m_md_per_inch == 100000 && &types::absolute_unit::m_md_per_inch != nullptr);
+	types::color_t color(0x11223344);
+	color = 5;
+	HOLDS(color.as_int32() == 5 && color == types::color_t(5L) && types::color_t::rgb(5L) == color.assign(5));
+	HOLDS(color.red(7) == 7 && types::color_t(1, 2, 3).as_rgb() == 0x030201);
+}
+
 // A list is asked by index and by name; no literal is both.
 void check_arguments(failures &into) {
 	quor::generic::varg_list list(quor::generic::argument("name", 5), "text", 7L);
@@ -484,6 +521,7 @@ std::vector<std::string> overload_matrix_failures() {
 	check_digits(into);
 	check_variant_numbers(into);
 	check_variant_texts(into);
+	check_units(into);
 	check_arguments(into);
 	check_streams(into);
 	check_paths(into);

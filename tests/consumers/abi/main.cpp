@@ -70,6 +70,25 @@ void check_callable_slots() {
 	check("slot of the call in functor::function_type_interface", 4, slot_of(&callable::operator()));
 }
 
+// Lengths have no virtual destructor: their tables begin with the operations.
+struct open_device_unit : quor::types::device_unit {
+	using device_unit::do_as_double;
+	using device_unit::do_as_float;
+	using device_unit::do_as_int32;
+	using device_unit::do_type;
+};
+
+void check_unit_slots() {
+	using length = quor::types::absolute_unit;
+	check("slot of types::absolute_unit::do_type", 0, slot_of(&length::do_type));
+	check("slot of types::absolute_unit::do_as_int32", 1, slot_of(&length::do_as_int32));
+	check("slot of types::absolute_unit::do_as_double", 2, slot_of(&length::do_as_double));
+	check("slot of types::device_unit::do_type", 0, slot_of(&open_device_unit::do_type));
+	check("slot of types::device_unit::do_as_int32", 1, slot_of(&open_device_unit::do_as_int32));
+	check("slot of types::device_unit::do_as_float", 2, slot_of(&open_device_unit::do_as_float));
+	check("slot of types::device_unit::do_as_double", 3, slot_of(&open_device_unit::do_as_double));
+}
+
 void check_config_slots() {
 	using item = quor::config::base_config_item;
 	using items = item::item_list;
@@ -180,7 +199,11 @@ int main() {
 	      sizeof(quor::serialization::serialize_text_buf));
 	check("size of serialization::labeled_text_buffer", counted + sizeof(std::string) + sizeof(void *),
 	      sizeof(quor::serialization::labeled_text_buffer));
+	check("size of types::absolute_unit", 8 + sizeof(double), sizeof(quor::types::absolute_unit));
+	check("size of types::device_unit", 2 * sizeof(void *), sizeof(quor::types::device_unit));
+	check("size of types::color_t", 4, sizeof(quor::types::color_t));
 	check_variant_slots();
+	check_unit_slots();
 	check_callable_slots();
 	check_config_slots();
 	check_buffer_slots();
