@@ -24,6 +24,8 @@ public:
 	/// Reads the next `count` bytes; the result is less at the end of the file or at
 	/// a fault.
 	std::size_t read(char *to, std::size_t count) noexcept;
+	/// The same from a position on, wherever `read` stands. Don't mix the two.
+	std::size_t read_at(std::uint64_t position, char *to, std::size_t count) noexcept;
 
 private:
 	static constexpr std::intptr_t closed = -1;

@@ -40,6 +40,21 @@ int handle_of(std::intptr_t handle) {
 	return static_cast<int>(handle);
 }
 
+/// Reads up to `count` bytes by `step(to, count)`, which reads some.
+template <class Step>
+std::size_t read_by(Step step, char *to, std::size_t count) {
+	std::size_t done = 0;
+	while (done != count) {
+		auto const taken = step(to + done, std::min(count - done, largest_step));
+		if (taken > 0) {
+			done += static_cast<std::size_t>(taken);
+		} else if (taken == 0 || errno != EINTR) {
+			break;
+		}
+	}
+	return done;
+}
+
 } // namespace
 
 input_file::input_file(types::wide_string const &path)
@@ -58,16 +73,16 @@ std::int64_t input_file::size() noexcept {
 }
 
 std::size_t input_file::read(char *to, std::size_t count) noexcept {
-	std::size_t done = 0;
-	while (done != count) {
-		auto const step = ::read(handle_of(m_handle), to + done, std::min(count - done, largest_step));
-		if (step > 0) {
-			done += static_cast<std::size_t>(step);
-		} else if (step == 0 || errno != EINTR) {
-			break;
-		}
-	}
-	return done;
+	int const handle = handle_of(m_handle);
+	return read_by([handle](char *target, std::size_t size) { return ::read(handle, target, size); }, to, count);
+}
+
+std::size_t input_file::read_at(std::uint64_t position, char *to, std::size_t count) noexcept {
+	int const handle = handle_of(m_handle);
+	auto const step = [handle, position, to](char *target, std::size_t size) {
+		return ::pread(handle, target, size, static_cast<off_t>(position) + (target - to));
+	};
+	return read_by(step, to, count);
 }
 
 output_file::output_file(types::wide_string const &path)

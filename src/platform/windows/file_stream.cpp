@@ -57,6 +57,12 @@ std::size_t input_file::read(char *to, std::size_t count) noexcept {
 	return done;
 }
 
+std::size_t input_file::read_at(std::uint64_t position, char *to, std::size_t count) noexcept {
+	LARGE_INTEGER target = {};
+	target.QuadPart = static_cast<LONGLONG>(position);
+	return SetFilePointerEx(handle_of(m_handle), target, nullptr, FILE_BEGIN) ? read(to, count) : 0;
+}
+
 output_file::output_file(types::wide_string const &path)
     : m_handle(number_of(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr))) {

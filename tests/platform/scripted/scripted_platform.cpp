@@ -158,10 +158,16 @@ std::size_t input_file::read(char *to, std::size_t count) noexcept {
 	auto &stream = stream_of(m_handle);
 	auto const *const file = found(stream.path);
 	auto const end = std::min(file->content.size(), file->read_limit);
-	auto const step = std::min(count, end - std::min(end, stream.at));
-	std::copy_n(file->content.data() + stream.at, step, to);
+	auto const from = std::min(end, stream.at);
+	auto const step = std::min(count, end - from);
+	std::copy_n(file->content.data() + from, step, to);
 	stream.at += step;
 	return step;
+}
+
+std::size_t input_file::read_at(std::uint64_t position, char *to, std::size_t count) noexcept {
+	stream_of(m_handle).at = static_cast<std::size_t>(position);
+	return read(to, count);
 }
 
 output_file::output_file(types::wide_string const &path) {
