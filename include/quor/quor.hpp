@@ -83,6 +83,7 @@
 #include <quor/types/variant_type.hpp>
 #include <quor/types/widths.hpp>
 #include <quor/version.hpp>
+#include <quor/xml_stream/xml_stream_parser.hpp>
 
 /// Short name of the library's versioned namespace.
 namespace quor = QUOR_2_9;

@@ -1,0 +1,184 @@
+#include <string_view>
+
+#include <quor/generic/convert/str_to_x.hpp>
+
+#include "support/ascii.hpp"
+#include "xml_stream/stream_bytes.hpp"
+#include "xml_stream/stream_reader.hpp"
+
+namespace QUOR_2_9::xml_stream::detail {
+namespace {
+
+using strings::ustring8;
+using parser = xml_stream_parser;
+
+constexpr std::size_t shortest_entity_room = 5;
+struct named_entity {
+	std::string_view text;
+	char byte;
+};
+
+constexpr named_entity named_entities[] = {
+    {"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&nbsp;", ' '},
+};
+
+} // namespace
+
+void stream_reader::parse_attribute() {
+	std::string_view const name = parse_name();
+	if (window.at_end()) {
+		throw parser::status_more_input;
+	}
+	if (name.empty()) {
+		throw parser::status_syntax;
+	}
+	if (*window.read.at != '=') {
+		throw parser::status_expected_equals;
+	}
+	++window.read.at;
+	std::string_view const value = parse_attrib_value();
+	if (value.empty() && !m_value_is_empty) {
+		throw parser::status_more_input;
+	}
+	if (!m_attribute_names.insert(name)) {
+		throw parser::status_duplicate_attribute;
+	}
+	auto const &entry = *m_open.back().node;
+	if (!entry.unseen) {
+		m_open.back().node->value.m_attributes.emplace_back(name, value);
+	}
+}
+
+std::string_view stream_reader::parse_attrib_value() {
+	cursor &read = window.read;
+	m_value_is_empty = false;
+	skip_whitespace();
+	if (window.at_end()) {
+		return {};
+	}
+	char const quote = *read.at;
+	if (quote != '"' && quote != '\'') {
+		throw parser::status_attribute_quote;
+	}
+	++read.at;
+	m_text.clear();
+	char const *begin = read.at;
+	char const *at = begin;
+	for (char const *const end = window.end; at != end && *at != quote;) {
+		if (*at == '<') {
+			read.at = at;
+			throw parser::status_syntax;
+		}
+		if (*at != '&') {
+			++at;
+			continue;
+		}
+		m_text.append(begin, at);
+		read.at = at;
+		ustring8 const entity = parse_entity();
+		if (entity.empty()) {
+			return {};
+		}
+		m_text.append(entity);
+		begin = at = read.at;
+	}
+	read.at = at;
+	if (window.at_end()) {
+		return {};
+	}
+	std::string_view value = between(begin, at);
+	if (!m_text.empty()) {
+		m_text.append(value);
+		value = m_text;
+	}
+	m_value_is_empty = value.empty();
+	++read.at;
+	skip_whitespace();
+	return value;
+}
+
+void stream_reader::parse_text() {
+	cursor &read = window.read;
+	char const *const begin = read.at;
+	char const *const end = find_byte(begin, window.end, '<');
+	bool const plain = find_byte(begin, end, '&') == end;
+	if (plain) {
+		read.at = end;
+	} else {
+		decode_text(end);
+	}
+	if (window.at_end()) {
+		throw parser::status_more_input;
+	}
+	if (m_open.size() <= 1) {
+		throw parser::status_syntax;
+	}
+	auto &entry = *m_open.back().node;
+	if (!entry.unseen) {
+		entry.value.m_data = plain ? between(begin, end) : std::string_view(m_text);
+	}
+}
+
+/// Steps up to `end`, which stands behind the text; what it says becomes `m_text`.
+void stream_reader::decode_text(char const *end) {
+	cursor &read = window.read;
+	m_text.clear();
+	while (read.at != end) {
+		char const *const stop = find_byte(read.at, end, '&');
+		m_text.append(read.at, stop);
+		read.at = stop;
+		if (stop != end) {
+			ustring8 const entity = parse_entity();
+			if (entity.empty()) {
+				throw parser::status_more_input;
+			}
+			m_text.append(entity);
+		}
+	}
+}
+
+ustring8 stream_reader::parse_entity() {
+	std::string_view const rest = between(window.read.at, window.end);
+	if (rest.size() < shortest_entity_room) {
+		return {};
+	}
+	if (rest[0] != '&') {
+		throw parser::status_syntax;
+	}
+	if (rest[1] == '#') {
+		return parse_reference();
+	}
+	for (auto const &[text, byte] : named_entities) {
+		std::string_view const start = rest.substr(0, text.size());
+		if (start == text) {
+			window.read.at += text.size();
+			return ustring8(1, byte);
+		}
+		if (start == text.substr(0, start.size())) {
+			return {};
+		}
+	}
+	throw parser::status_syntax;
+}
+
+/// The same for a number, which becomes one byte.
+ustring8 stream_reader::parse_reference() {
+	bool const hexadecimal = window.read.at[2] == 'x';
+	char const *const digits = window.read.at + (hexadecimal ? 3 : 2);
+	char const *at = digits;
+	while (at != window.end && (hexadecimal ? support::is_hex_digit(*at) : support::is_digit(*at))) {
+		++at;
+	}
+	if (at == window.end) {
+		return {};
+	}
+	if (*at != ';') {
+		throw parser::status_syntax;
+	}
+	window.read.at = at + 1;
+	auto const length = static_cast<types::uint32>(at - digits);
+	auto const byte = generic::convert::str_to_uint8(digits, length, hexadecimal ? 16 : 0, false);
+	return ustring8(1, static_cast<char>(byte));
+}
+
+} // namespace QUOR_2_9::xml_stream::detail
