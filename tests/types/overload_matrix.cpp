@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstddef>
 #include <cstdint>
+#include <iostream>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -318,6 +319,25 @@ void check_algorithms(failures &into) {
 	HOLDS(strings::to_upper(std::string("ab")) == "AB");
 }
 
+void check_wide_layer(failures &into) {
+	namespace gh2 = strings::gh2;
+	HOLDS(gh2::to_ustring("ab") == QUOR_W("ab") && gh2::to_ustring(std::string("ab")) == QUOR_W("ab"));
+	HOLDS(gh2::to_ustring(ustring8("\xF0\x9F\x98\x80")) == QUOR_W("\U0001F600"));
+	HOLDS(gh2::to_ustring(QUOR_W("\uFEFFab")) == QUOR_W("ab") &&
+	      gh2::to_ustring(ustring16(QUOR_W("ab"))) == QUOR_W("ab"));
+	HOLDS(gh2::to_utf8(QUOR_W("\U0001F600")) == "\xF0\x9F\x98\x80" && gh2::to_utf8(wide_string()).empty());
+	HOLDS(gh2::to_widechar(QUOR_W("ab")) == QUOR_W("ab") && gh2::to_ansi(QUOR_W("ab")) == "ab");
+	HOLDS(gh2::from_ansi("ab") == QUOR_W("ab") && gh2::to_ansi(QUOR_W("\u4E2D")).empty());
+	HOLDS(gh2::toupper(QUOR_W("aB\u0101")) == QUOR_W("AB\u0101") && gh2::tolower(QUOR_W("aB")) == QUOR_W("ab"));
+	unsigned char const bytes[] = {0xC3, 0xA9};
+	HOLDS(gh2::get_utf8_length("a", 1) == 1 && gh2::get_utf8_length(bytes, sizeof bytes) == 2);
+	HOLDS(gh2::validate_utf8("a", 1U) && gh2::validate_utf8(bytes, 2) && !gh2::validate_utf8(bytes, 1));
+	HOLDS(&gh2::ucin == &std::wcin && &gh2::ucout == &std::wcout && &gh2::ucerr == &std::wcerr);
+	std::wostringstream stream;
+	stream << ustring16(QUOR_W("ab")) << ustring16(wide_string(QUOR_W("cd"))) << L"ef";
+	HOLDS(stream.str() == L"abcdef");
+}
+
 void check_sums(failures &into) {
 	HOLDS(ustring8("a") + "b" + std::string("c") + 'd' + ustring8("e") == "abcde");
 	HOLDS("a" + ustring8("b") == "ab" && 'a' + ustring8("b") == "ab" && std::string("a") + ustring8("b") == "ab");
@@ -516,6 +536,7 @@ std::vector<std::string> overload_matrix_failures() {
 	check_code_points(into);
 	check_transcoders(into);
 	check_algorithms(into);
+	check_wide_layer(into);
 	check_sums(into);
 	check_text_to_number(into);
 	check_digits(into);

@@ -8,7 +8,8 @@
 # other users, through sudo. Where there is no dpkg it only names the packages and goes on.
 
 # What the stages of tools/test and the other tools need.
-quor_build_packages=(cmake ninja-build g++ pkg-config libgtest-dev python3 binutils)
+# locales: a test makes locales with other encodings than UTF-8.
+quor_build_packages=(cmake ninja-build g++ pkg-config libgtest-dev python3 binutils locales)
 quor_clang_packages=(clang libclang-rt-dev llvm)
 quor_windows_packages=(g++-mingw-w64-x86-64-posix)
 quor_format_packages=(clang-format-14 python3)
