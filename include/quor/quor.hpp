@@ -64,6 +64,7 @@
 #include <quor/serialization/serialize_buffer.hpp>
 #include <quor/serialization/serialize_text_buf.hpp>
 #include <quor/strings/case.hpp>
+#include <quor/strings/code_page/code_page.hpp>
 #include <quor/strings/gh2/streams.hpp>
 #include <quor/strings/gh2/utf8_sequence.hpp>
 #include <quor/strings/gh2/wide_text.hpp>
