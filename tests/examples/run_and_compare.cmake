@@ -1,10 +1,11 @@
 # Runs a program and holds what it does against what is expected:
 #
 #   cmake -DPROGRAM=... -DARGUMENTS="a|b|c" -DSTATUS=0 [-DOUTPUT=file] [-DERRORS=file]
-#         [-DENVIRONMENT="A=b|C=d"] [-DFILES="a|b"] -DWORK=dir -P run_and_compare.cmake
+#         [-DINPUT=file] [-DENVIRONMENT="A=b|C=d"] [-DFILES="a|b"] -DWORK=dir -P run_and_compare.cmake
 #
 # Arguments are separated by "|". OUTPUT and ERRORS name files with the expected texts;
-# without one the program must write nothing there. It runs in the current directory.
+# without one the program must write nothing there. INPUT is its standard input, else it has
+# the caller's. It runs in the current directory.
 # With ENVIRONMENT, which may be empty, the program gets this environment and no other, and
 # runs in a directory that holds nothing but copies of the FILES; then the texts are
 # compared byte by byte, else but for the line ends.
@@ -28,7 +29,11 @@ else()
   set(launcher ${LAUNCHER})
   set(line_ends --ignore-eol)
 endif()
-execute_process(COMMAND ${launcher} "${PROGRAM}" ${arguments} WORKING_DIRECTORY "${place}"
+set(input "")
+if(INPUT)
+  set(input INPUT_FILE "${INPUT}")
+endif()
+execute_process(COMMAND ${launcher} "${PROGRAM}" ${arguments} WORKING_DIRECTORY "${place}" ${input}
   RESULT_VARIABLE status OUTPUT_FILE "${WORK}/output.txt" ERROR_FILE "${WORK}/errors.txt")
 
 set(failed FALSE)

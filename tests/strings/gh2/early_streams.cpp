@@ -1,5 +1,5 @@
 // A program whose static objects write to the wide streams before main begins and after it
-// has ended. It includes nothing that would make the streams on its own.
+// has ended, in the "C" locale. It includes nothing that would make the streams on its own.
 
 #include <quor/strings/gh2/streams.hpp>
 
@@ -25,5 +25,10 @@ talker const early;
 
 int main() {
 	gh2::ucout << strings::ustring16(QUOR_W("main "));
-	return gh2::ucout.good() && gh2::ucerr.good() ? 0 : 1;
+	// What the locale lacks is replaced, or ends the output until clear().
+	gh2::ucout << strings::ustring16(QUOR_W("ab\u4E2Dcd")) << L"ef";
+	bool const bad = gh2::ucout.bad();
+	gh2::ucout.clear();
+	gh2::ucout << (bad ? L" bad " : L" good ") << (gh2::ucerr.good() ? L"" : L"no errors ");
+	return 0;
 }

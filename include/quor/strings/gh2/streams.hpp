@@ -13,10 +13,11 @@
 ///
 /// The streams are the platform's own with their rules:
 ///
-/// - They convert by the C locale. It is "C" until the program calls `std::setlocale`, best
-///   before the first output; with it, GNU's library writes ASCII alone.
-/// - A character that the locale lacks ends the output: the stream goes bad, and what comes
-///   after is lost until `clear()`.
+/// - They convert by the C locale. It is "C", which has ASCII alone, until the program calls
+///   `std::setlocale`, best before the first output, since that settles it.
+/// - A character that the locale lacks is written by GNU's library as one that looks like
+///   it or as `?`; elsewhere, as on Windows, it makes the stream go bad, and what comes after
+///   is lost until `clear()`. Bytes that the locale can't read end the input.
 /// - A program writes to standard output either wide or narrow, never both: the first
 ///   operation decides, and those of the other kind fail from then on. The same goes for
 ///   each of the other two streams.
@@ -38,8 +39,8 @@ namespace QUOR_2_9::strings {
 /// width and fill, which count units of the stream.
 ///
 /// Where the stream's unit has 32 bits, a surrogate pair is one unit, and half a pair alone
-/// is written as U+FFFD. Zeros are written. Malformed input can't make the stream go bad;
-/// characters that its locale lacks can. Cost: linear, allocates a copy.
+/// is written as U+FFFD, so that malformed text doesn't make a stream go bad. Zeros are
+/// written. Cost: linear, allocates a copy.
 /// @since 2.9
 QUOR_API std::wostream &operator<<(std::wostream &stream, ustring16 const &text);
 
