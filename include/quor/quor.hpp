@@ -74,6 +74,16 @@
 #include <quor/strings/transcode.hpp>
 #include <quor/strings/unichar.hpp>
 #include <quor/strings/ustring.hpp>
+#include <quor/system/date_time/basic_date.hpp>
+#include <quor/system/date_time/basic_time.hpp>
+#include <quor/system/date_time/calendar_rules.hpp>
+#include <quor/system/date_time/date.hpp>
+#include <quor/system/date_time/date_duration.hpp>
+#include <quor/system/date_time/date_time.hpp>
+#include <quor/system/date_time/milliseconds.hpp>
+#include <quor/system/date_time/time.hpp>
+#include <quor/system/date_time/time_duration.hpp>
+#include <quor/system/date_time/timer.hpp>
 #include <quor/system/directory.hpp>
 #include <quor/system/file.hpp>
 #include <quor/system/io.hpp>
