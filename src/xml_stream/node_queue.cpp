@@ -21,7 +21,7 @@ std::size_t node_queue::count_front(std::size_t limit) const noexcept {
 node_queue::node node_queue::pop() {
 	auto const at = m_queue.begin();
 	node result(std::move(at->value));
-	drop(m_queue, at);
+	release(m_queue, at);
 	return result;
 }
 
@@ -34,29 +34,32 @@ node_queue::position node_queue::prepare() {
 
 void node_queue::push(bool open) noexcept {
 	m_spare.front().open = open;
+	m_spare.front().unseen = false;
 	m_queue.splice(m_queue.end(), m_spare, m_spare.begin());
 }
 
 void node_queue::close(position at) noexcept {
 	at->open = false;
 	if (at->unseen) {
-		drop(m_unseen, at);
+		at->value = node();
+		release(m_unseen, at);
 	}
 }
 
 void node_queue::clear() noexcept {
 	while (!m_queue.empty()) {
-		drop(m_queue, m_queue.begin());
+		m_queue.front().value = node();
+		release(m_queue, m_queue.begin());
 	}
 }
 
-/// Takes a node out of its list: to the unseen ones, or among the spare ones, empty.
-void node_queue::drop(std::list<entry> &list, position at) noexcept {
+/// Takes a node that is empty or moved from out of its list: to the unseen ones, or among the
+/// spare ones.
+void node_queue::release(std::list<entry> &list, position at) noexcept {
 	if (at->open) {
 		at->unseen = true;
 		m_unseen.splice(m_unseen.end(), list, at);
 	} else if (m_spare.size() < most_spare) {
-		*at = entry();
 		m_spare.splice(m_spare.begin(), list, at);
 	} else {
 		list.erase(at);

@@ -29,8 +29,8 @@ public:
 	node &front() noexcept { return m_queue.front().value; }
 	node pop();
 
-	/// A node as the constructor makes it, of an element that is open or not. It isn't
-	/// queued before `push`, which the next `prepare` has to wait for.
+	/// A node for an element that is open or not, with any contents. It isn't queued before
+	/// `push`, which the next `prepare` has to wait for.
 	position prepare();
 	/// Queues what `prepare` made, at the back.
 	void push(bool open) noexcept;
@@ -40,11 +40,11 @@ public:
 	void clear() noexcept;
 
 private:
-	void drop(std::list<entry> &list, position at) noexcept;
+	void release(std::list<entry> &list, position at) noexcept;
 
 	std::list<entry> m_queue;
 	std::list<entry> m_unseen;
-	std::list<entry> m_spare; // as new
+	std::list<entry> m_spare; // without long texts
 };
 
 } // namespace QUOR_2_9::xml_stream::detail

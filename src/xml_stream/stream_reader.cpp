@@ -131,7 +131,7 @@ stream_reader::error_type const &stream_reader::recover(std::list<ustring8> cons
 	if (tags.empty()) {
 		return status = xml_stream_parser::status_no_position;
 	}
-	m_attribute_names.clear();
+	forget_attribute_names();
 	m_in_tag = m_closing_tag_pending = m_in_comment = false;
 	give_up_deep_elements();
 	queue.clear();

@@ -2,7 +2,10 @@
 #define QUOR_SRC_XML_STREAM_STREAM_READER_HPP
 
 #include <cstddef>
+#include <functional>
 #include <list>
+#include <set>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,7 +13,6 @@
 #include <quor/types/widths.hpp>
 #include <quor/xml_stream/xml_stream_parser.hpp>
 
-#include "xml_stream/attribute_names.hpp"
 #include "xml_stream/input_window.hpp"
 #include "xml_stream/node_queue.hpp"
 #include "xml_stream/stream_bytes.hpp"
@@ -19,6 +21,9 @@ namespace QUOR_2_9::xml_stream::detail {
 
 /// An element that is open.
 struct open_element {
+	open_element(std::string_view its_name, node_queue::position its_node, bool is_deep)
+	    : name(its_name), node(its_node), deep(is_deep) {}
+
 	strings::ustring8 name;
 	node_queue::position node;
 	/// Reported when it is closed. Shallow ones are those on the path.
@@ -63,12 +68,17 @@ private:
 	}
 	bool wants_promised() const noexcept;
 	void settle(error_type stopped);
+	void fill(node &made, std::string_view name, error_type node_status, bool available, unsigned int id,
+	          unsigned int parent_id) const;
 	bool parse_token();
 	bool parse_markup();
 	bool parse_opening_tag();
 	void parse_closing_tag();
 	bool parse_empty_end();
 	void parse_attribute();
+	bool is_new_attribute(std::string_view name);
+	void keep_attribute_names();
+	void forget_attribute_names() noexcept;
 	void parse_text();
 	void decode_text(char const *end);
 	strings::ustring8 parse_reference();
@@ -88,10 +98,13 @@ private:
 	bool m_positioned = true;
 	bool m_value_is_empty = false; // and not cut off
 	bool m_queue_was_long = false; // when `parse_next` left
+	bool m_names_kept = false;     // in `m_attribute_names`
 	std::vector<open_element> m_open;
 	std::vector<strings::ustring8> m_path; // the names of the open elements that are shallow
 	std::vector<unsigned int> m_ids;
-	attribute_names m_attribute_names;
+	/// The names of the attributes in the current tag, once the list in the node can't be
+	/// relied on or is long.
+	std::set<std::string, std::less<>> m_attribute_names;
 	strings::ustring8 m_text;
 };
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <string_view>
 
 #include <quor/generic/convert/str_to_x.hpp>
@@ -12,6 +14,9 @@ namespace {
 using strings::ustring8;
 using parser = xml_stream_parser;
 
+/// From as many attributes on their names are looked up in a set.
+constexpr std::size_t long_list = 16;
+
 constexpr std::size_t shortest_entity_room = 5;
 struct named_entity {
 	std::string_view text;
@@ -21,6 +26,24 @@ struct named_entity {
 constexpr named_entity named_entities[] = {
     {"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&nbsp;", ' '},
 };
+
+constexpr std::array<bool, 256> make_plain_in_value() {
+	std::array<bool, 256> result = {};
+	for (unsigned int byte = 0; byte != result.size(); ++byte) {
+		result[byte] = byte != '"' && byte != '\'' && byte != '<' && byte != '&';
+	}
+	return result;
+}
+
+constexpr std::array<bool, 256> plain_in_value = make_plain_in_value();
+
+/// Behind the bytes that stand for themselves in either kind of quotes.
+char const *end_of_plain(char const *at, char const *end) noexcept {
+	while (at != end && plain_in_value[static_cast<unsigned char>(*at)]) {
+		++at;
+	}
+	return at;
+}
 
 } // namespace
 
@@ -40,12 +63,39 @@ void stream_reader::parse_attribute() {
 	if (value.empty() && !m_value_is_empty) {
 		throw parser::status_more_input;
 	}
-	if (!m_attribute_names.insert(name)) {
+	if (!is_new_attribute(name)) {
 		throw parser::status_duplicate_attribute;
 	}
-	auto const &entry = *m_open.back().node;
+	auto &entry = *m_open.back().node;
 	if (!entry.unseen) {
-		m_open.back().node->value.m_attributes.emplace_back(name, value);
+		entry.value.m_attributes.emplace_back(name, value);
+	}
+}
+
+/// As long as the caller can't have changed them, the node's own attributes tell.
+bool stream_reader::is_new_attribute(std::string_view name) {
+	if (!m_names_kept) {
+		auto const &attributes = m_open.back().node->value.m_attributes;
+		if (attributes.size() < long_list) {
+			return std::none_of(attributes.begin(), attributes.end(),
+			                    [name](auto const &attribute) { return attribute.first == name; });
+		}
+		keep_attribute_names();
+	}
+	return m_attribute_names.emplace(name).second;
+}
+
+void stream_reader::keep_attribute_names() {
+	for (auto const &attribute : m_open.back().node->value.m_attributes) {
+		m_attribute_names.insert(attribute.first);
+	}
+	m_names_kept = true;
+}
+
+void stream_reader::forget_attribute_names() noexcept {
+	if (m_names_kept) {
+		m_attribute_names.clear();
+		m_names_kept = false;
 	}
 }
 
@@ -64,13 +114,13 @@ std::string_view stream_reader::parse_attrib_value() {
 	m_text.clear();
 	char const *begin = read.at;
 	char const *at = begin;
-	for (char const *const end = window.end; at != end && *at != quote;) {
+	while ((at = end_of_plain(at, window.end)) != window.end && *at != quote) {
 		if (*at == '<') {
 			read.at = at;
 			throw parser::status_syntax;
 		}
 		if (*at != '&') {
-			++at;
+			++at; // the other quote
 			continue;
 		}
 		m_text.append(begin, at);

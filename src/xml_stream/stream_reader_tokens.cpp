@@ -27,6 +27,9 @@ void stream_reader::parse_next() {
 	} catch (error_type const &error) {
 		status = error;
 	}
+	if (m_in_tag && !m_names_kept) {
+		keep_attribute_names();
+	}
 }
 
 /// One token, which is committed; false to leave.
@@ -117,22 +120,29 @@ bool stream_reader::parse_opening_tag() {
 		m_path.emplace_back(name);
 	}
 	new_node(name, parser::status_more_input, available);
-	m_attribute_names.clear();
+	forget_attribute_names();
 	m_in_tag = true;
 	window.commit();
 	return true;
 }
 
-void stream_reader::new_node(std::string_view name, error_type node_status, bool available) {
-	auto const position = queue.prepare();
-	m_open.push_back({ustring8(name), position, !available});
-	node &made = position->value;
+void stream_reader::fill(node &made, std::string_view name, error_type node_status, bool available, unsigned int id,
+                         unsigned int parent_id) const {
 	made.m_status = node_status;
 	made.m_available = available;
 	made.m_tag = name;
 	made.m_line = window.read.line;
-	made.m_id = m_next_id;
-	made.m_parent_id = m_ids.empty() ? 0 : m_ids.back();
+	made.m_id = id;
+	made.m_parent_id = parent_id;
+	made.m_attributes.clear();
+	made.m_data.clear();
+}
+
+void stream_reader::new_node(std::string_view name, error_type node_status, bool available) {
+	auto const position = queue.prepare();
+	m_open.emplace_back(name, position, !available);
+	unsigned int const parent_id = m_ids.empty() ? 0 : m_ids.back();
+	fill(position->value, name, node_status, available, m_next_id, parent_id);
 	m_ids.push_back(m_next_id);
 	++m_next_id;
 	queue.push(true);
@@ -164,7 +174,7 @@ void stream_reader::close_tag() {
 	}
 	m_open.pop_back();
 	m_ids.pop_back();
-	m_attribute_names.clear();
+	forget_attribute_names();
 }
 
 /// The innermost open element, a shallow one, ends.
@@ -198,12 +208,7 @@ void stream_reader::close_element(std::string_view name) {
 }
 
 void stream_reader::end_of_open_node(std::string_view name, error_type node_status) {
-	node &made = queue.prepare()->value;
-	made.m_status = node_status;
-	made.m_available = true;
-	made.m_tag = name;
-	made.m_line = window.read.line;
-	made.m_id = static_cast<unsigned int>(m_path.size());
+	fill(queue.prepare()->value, name, node_status, true, static_cast<unsigned int>(m_path.size()), 0);
 	if (!m_ids.empty()) {
 		m_ids.pop_back();
 	}

@@ -11,13 +11,6 @@ using strings::ustring32;
 using strings::ustring8;
 using error_type = xml_stream_parser::error_type;
 
-xml_stream_parser::node::node() = default;
-xml_stream_parser::node::node(node const &other) = default;
-xml_stream_parser::node::node(node &&other) noexcept = default;
-xml_stream_parser::node &xml_stream_parser::node::operator=(node const &other) = default;
-xml_stream_parser::node &xml_stream_parser::node::operator=(node &&other) noexcept = default;
-xml_stream_parser::node::~node() = default;
-
 char const *xml_stream_parser::EmptyNodeQueue::what() const noexcept {
 	return "empty node queue";
 }

@@ -109,7 +109,8 @@ public:
 		status_bad_header = 12
 	};
 
-	/// One report of an element. A value; the copy that `node_queue_pop` gives is the caller's.
+	/// One report of an element. A value; what `node_queue_pop` gives is the caller's. A moved
+	/// node's texts and attributes are unspecified.
 	/// @since 2.9
 	class QUOR_API node {
 	public:
@@ -118,19 +119,7 @@ public:
 
 		/// A node with status 1 that isn't available, all else empty or 0.
 		/// @since 2.9
-		node();
-		/// Copies and moves are those of the fields; a moved node's texts and attributes are
-		/// unspecified.
-		/// @since 2.9
-		/// @{
-		node(node const &other);
-		node(node &&other) noexcept;
-		node &operator=(node const &other);
-		node &operator=(node &&other) noexcept;
-		/// @}
-		/// Frees the texts.
-		/// @since 2.9
-		~node();
+		node() = default;
 
 		/// The number of the element, from 1 in the order of the tags; in a shallow element's
 		/// closing node how many shallow ones were open, itself included. Wraps at 2^32.
