@@ -58,6 +58,7 @@
 #include <quor/memory/pointers/shared_pointer.hpp>
 #include <quor/parser/xml_parser.hpp>
 #include <quor/parser/xml_token_stream.hpp>
+#include <quor/serialization/formatted_buffer.hpp>
 #include <quor/serialization/labeled_serialize_buffer.hpp>
 #include <quor/serialization/labeled_text_buffer.hpp>
 #include <quor/serialization/serialize_binary_buf.hpp>

@@ -2,9 +2,11 @@
 #define QUOR_SRC_SERIALIZATION_CONTENTS_HPP
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
+#include <quor/serialization/formatted_buffer.hpp>
 #include <quor/types/widths.hpp>
 
 /// What the buffers share: a string of contents and a read position of 32 bits.
@@ -22,37 +24,68 @@ inline types::uint32 advanced(types::uint32 position, types::uint32 count) noexc
 	return count < no_position - position ? position + count : no_position;
 }
 
-/// Takes bytes that may be part of the contents; none where there is no pointer or the length
-/// is negative.
-inline void assign_bytes(std::string &contents, char const *data, int length) {
-	if (data == nullptr || length < 0) {
-		contents.clear();
+/// The bytes that count.
+inline std::string_view contents_of(stored_bytes const &stored) noexcept {
+	return {stored.bytes.data(), stored.size};
+}
+
+/// Takes bytes that may be part of the contents.
+void take_bytes(stored_bytes &stored, std::string_view bytes);
+
+/// The string, cut to the contents from now on.
+std::string const &lend(stored_bytes &stored) noexcept;
+
+/// How many further bytes go behind the contents as the string is.
+inline std::size_t room_of(stored_bytes const &stored) noexcept {
+	return stored.bytes.size() - stored.size;
+}
+
+/// Where the next byte goes. There must be room for it.
+inline char *next_byte(stored_bytes &stored) noexcept {
+	return stored.bytes.data() + stored.size;
+}
+
+/// Makes the string ready for so many further bytes, at least doubling it where it has to grow,
+/// so that `append_bytes` of them moves nothing and can't fail.
+void make_room(stored_bytes &stored, std::size_t further);
+
+/// Appends bytes that are not part of the contents, unless the string is ready for them.
+void append_bytes(stored_bytes &stored, char const *bytes, std::size_t count);
+
+/// Appends what `write` writes, at most `Most` bytes; it takes where to and returns their count.
+template <std::size_t Most, class Write>
+void append_written(stored_bytes &stored, Write write) {
+	if (room_of(stored) >= Most) {
+		stored.size += write(next_byte(stored));
 	} else {
-		contents.assign(data, static_cast<std::size_t>(length));
+		char bytes[Most];
+		append_bytes(stored, bytes, write(bytes));
 	}
 }
 
-/// Makes room for so many further bytes where there is none.
-void grow(std::string &contents, std::size_t further);
-
-/// Makes room for so many further bytes, at least doubling what is there, so that appending
-/// them moves nothing and can't fail.
-inline void make_room(std::string &contents, std::size_t further) {
-	if (contents.capacity() - contents.size() < further) {
-		grow(contents, further);
-	}
+/// Copies so many bytes as so many words that may overlap, but not in place.
+template <class Word>
+void copy_words(char *to, char const *from, std::size_t first, std::size_t second, std::size_t last) noexcept {
+	Word words[4];
+	std::memcpy(words, from, sizeof(Word));
+	std::memcpy(words + 1, from + first, sizeof(Word));
+	std::memcpy(words + 2, from + second, sizeof(Word));
+	std::memcpy(words + 3, from + last, sizeof(Word));
+	std::memcpy(to, words, sizeof(Word));
+	std::memcpy(to + first, words + 1, sizeof(Word));
+	std::memcpy(to + second, words + 2, sizeof(Word));
+	std::memcpy(to + last, words + 3, sizeof(Word));
 }
 
-/// Appends where there is no room for it.
-void append_growing(std::string &contents, char const *bytes, std::size_t count);
-
-/// Appends a few bytes. The test for room is that of the string, which so drops out of it.
-template <std::size_t Count>
-void append_few(std::string &contents, char const (&bytes)[Count]) {
-	if (contents.size() + Count <= contents.capacity()) {
-		contents.append(bytes, Count);
+/// Copies bytes of another place. Most texts are short and of differing sizes: from 4 to 16 bytes
+/// none of the branches depends on the size.
+inline void copy_text(char *to, char const *from, std::size_t size) noexcept {
+	constexpr std::size_t word = 4;
+	if (size - word <= 3 * word) {
+		std::size_t const middle = size / (2 * word) * word;
+		copy_words<types::uint32>(to, from, middle, size - word - middle, size - word);
 	} else {
-		append_growing(contents, bytes, Count);
+		std::memcpy(to, from, size);
 	}
 }
 

@@ -11,6 +11,7 @@
 
 #include "generic/convert/decimal_text.hpp"
 #include "serialization/contents.hpp"
+#include "serialization/formatted_buffer_bodies.hpp"
 #include "serialization/text_fields.hpp"
 #include "support/ascii.hpp"
 
@@ -24,20 +25,6 @@ using types::uint32;
 using types::uint64;
 
 namespace {
-
-template <class Number>
-void append_digits(std::string &text, Number value) {
-	char digits[detail::number_field_size];
-	text.append(detail::number_field(value, digits));
-}
-
-void append_floating(std::string &text, double value, uint32 precision) {
-	char digits[convert::detail::gcvt_size + 1];
-	auto const count = static_cast<int>(std::min<uint32>(precision, convert::detail::gcvt_size));
-	std::size_t const length = convert::detail::gcvt(value, count, digits);
-	digits[length] = detail::separator;
-	text.append(digits, length + 1);
-}
 
 /// A plain number in the range of its type.
 template <class Number>
@@ -110,163 +97,86 @@ uint64 convert_field(std::string_view field, uint64 /*type*/) {
 	return field_number<uint64>(field, convert::str_to_uint64);
 }
 
-template <class Number>
-Number read_number(std::string_view text, uint32 &position) {
-	int32 plain = 0;
-	if (detail::take_plain_number(text, position, plain)) {
-		return clipped<Number>(plain);
-	}
-	return convert_field(detail::take_field(text, position), Number());
-}
-
 } // namespace
 
-serialize_text_buf::serialize_text_buf(serialize_buffer const &other) : buffer(other.as_str()) {}
+namespace detail {
 
-serialize_text_buf::serialize_text_buf(std::string const &bytes) : buffer(bytes) {}
+struct text_format {
+	template <class Number>
+	static void append_number(stored_bytes &stored, Number value) {
+		append_written<number_field_size>(stored, [value](char *to) noexcept { return write_number_field(value, to); });
+	}
+
+	static void append_floating(stored_bytes &stored, double value, uint32 precision) {
+		char field[convert::detail::gcvt_size + 1];
+		auto const digits = static_cast<int>(std::min<uint32>(precision, convert::detail::gcvt_size));
+		std::size_t const length = convert::detail::gcvt(value, digits, field);
+		field[length] = separator;
+		append_bytes(stored, field, length + 1);
+	}
+
+	static void append_text(stored_bytes &stored, std::string const &value) { append_framed(stored, value); }
+
+	template <class Number>
+	static Number read_number(stored_bytes &stored) {
+		std::string_view const text = contents_of(stored);
+		int32 plain = 0;
+		if (take_plain_number(text, stored.position, plain)) {
+			return clipped<Number>(plain);
+		}
+		return convert_field(take_field(text, stored.position), Number());
+	}
+
+	/// Reads a string as a part of the buffer; its count is read as any number.
+	static std::string_view take_text(serialize_buffer const &buffer, stored_bytes &stored) {
+		if (stored.position == no_position) {
+			return {};
+		}
+		int32 const count = buffer.read_int32();
+		return take_framed(contents_of(stored), stored.position, count);
+	}
+
+	static std::string read_text(serialize_buffer const &buffer, stored_bytes &stored) {
+		return std::string(take_text(buffer, stored));
+	}
+};
+
+template <>
+int32 text_format::read_number<int32>(stored_bytes &stored) {
+	return take_int32(contents_of(stored), stored.position);
+}
+
+template <>
+double text_format::read_number<double>(stored_bytes &stored) {
+	std::string_view const field = take_field(contents_of(stored), stored.position);
+	return convert::detail::atof(field.data(), field.size());
+}
+
+// A number beyond the range of a single narrows to an infinity.
+template <>
+float text_format::read_number<float>(stored_bytes &stored) {
+	return static_cast<float>(read_number<double>(stored));
+}
+
+template class formatted_buffer<text_format>;
+
+} // namespace detail
+
+serialize_text_buf::serialize_text_buf(serialize_buffer const &other) : formatted_buffer(other) {}
+
+serialize_text_buf::serialize_text_buf(std::string const &bytes) : formatted_buffer(bytes) {}
 
 serialize_text_buf::~serialize_text_buf() = default;
 
 serialize_text_buf &serialize_text_buf::operator=(serialize_text_buf const &other) {
-	buffer = other.buffer;
-	read_pos = other.read_pos;
+	formatted_buffer::operator=(other);
 	return *this;
-}
-
-serialize_buffer &serialize_text_buf::assign(char const *data, int length) {
-	detail::assign_bytes(buffer, data, length);
-	return *this;
-}
-
-serialize_buffer &serialize_text_buf::assign(std::string const &bytes) {
-	buffer = bytes;
-	return *this;
-}
-
-serialize_buffer &serialize_text_buf::assign(serialize_buffer const &other) {
-	buffer = other.as_str();
-	return *this;
-}
-
-std::string const &serialize_text_buf::as_str() const {
-	return buffer;
-}
-
-void serialize_text_buf::append_int8(signed char const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_int16(short const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_int32(int32 const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_int64(int64 const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_uint8(unsigned char const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_uint16(unsigned short const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_uint32(uint32 const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_uint64(uint64 const &value) {
-	append_digits(buffer, value);
-}
-
-void serialize_text_buf::append_float(float const &value, uint32 const &precision) {
-	append_floating(buffer, static_cast<double>(value), precision);
-}
-
-void serialize_text_buf::append_double(double const &value, uint32 const &precision) {
-	append_floating(buffer, value, precision);
-}
-
-void serialize_text_buf::append_string(std::string const &value) {
-	detail::append_framed(buffer, value);
-}
-
-void serialize_text_buf::append_buffer(serialize_buffer const &value) {
-	detail::append_framed(buffer, value.as_str());
-}
-
-signed char serialize_text_buf::read_int8() const {
-	return read_number<signed char>(buffer, read_pos);
-}
-
-short serialize_text_buf::read_int16() const {
-	return read_number<short>(buffer, read_pos);
-}
-
-int32 serialize_text_buf::read_int32() const {
-	return detail::take_int32(buffer, read_pos);
-}
-
-int64 serialize_text_buf::read_int64() const {
-	return read_number<int64>(buffer, read_pos);
-}
-
-unsigned char serialize_text_buf::read_uint8() const {
-	return read_number<unsigned char>(buffer, read_pos);
-}
-
-unsigned short serialize_text_buf::read_uint16() const {
-	return read_number<unsigned short>(buffer, read_pos);
-}
-
-uint32 serialize_text_buf::read_uint32() const {
-	return read_number<uint32>(buffer, read_pos);
-}
-
-uint64 serialize_text_buf::read_uint64() const {
-	return read_number<uint64>(buffer, read_pos);
-}
-
-// A number beyond the range of a single narrows to an infinity.
-float serialize_text_buf::read_float() const {
-	return static_cast<float>(serialize_text_buf::read_double());
-}
-
-double serialize_text_buf::read_double() const {
-	std::string_view const field = detail::take_field(buffer, read_pos);
-	return convert::detail::atof(field.data(), field.size());
-}
-
-/// Reads a string as a part of the buffer; its count is read as any number.
-std::string_view serialize_text_buf::get_text() const {
-	if (read_pos == detail::no_position) {
-		return {};
-	}
-	int32 const count = read_int32();
-	return detail::take_framed(buffer, read_pos, count);
-}
-
-std::string serialize_text_buf::read_string() const {
-	return std::string(get_text());
 }
 
 serialize_buffer *serialize_text_buf::read_buffer() const {
 	std::unique_ptr<serialize_text_buf> result(create_dynamic<serialize_text_buf>());
-	result->buffer = get_text();
+	detail::take_bytes(result->stored, detail::text_format::take_text(*this, stored));
 	return result.release();
-}
-
-bool serialize_text_buf::at_end() const {
-	return detail::is_at_end(buffer, read_pos);
-}
-
-void serialize_text_buf::reset_read() const {
-	read_pos = 0;
 }
 
 serialize_text_buf *serialize_text_buf::create() const {

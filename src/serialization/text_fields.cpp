@@ -74,14 +74,23 @@ std::string_view take_framed(std::string_view text, uint32 &position, int32 coun
 	return count < 0 ? rest : rest.substr(0, static_cast<uint32>(count));
 }
 
-void append_framed(std::string &text, std::string const &value) {
+void append_framed(stored_bytes &stored, std::string const &value) {
 	std::size_t const size = value.size();
+	std::size_t const most = number_field_size + size + 1;
+	if (room_of(stored) >= most) {
+		char *const to = next_byte(stored);
+		std::size_t const count = write_number_field(size, to);
+		copy_text(to + count, value.data(), size);
+		to[count + size] = separator;
+		stored.size += count + size + 1;
+		return;
+	}
 	char digits[number_field_size];
 	std::string_view const count = number_field(size, digits);
-	make_room(text, count.size() + size + 1);
-	text.append(count);
-	text.append(value.data(), size);
-	text.push_back(separator);
+	make_room(stored, count.size() + size + 1);
+	append_bytes(stored, count.data(), count.size());
+	append_bytes(stored, value.data(), size);
+	append_bytes(stored, &separator, 1);
 }
 
 } // namespace QUOR_2_9::serialization::detail

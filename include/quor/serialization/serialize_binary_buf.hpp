@@ -17,8 +17,8 @@
 #include <string>
 
 #include <quor/export.hpp>
+#include <quor/serialization/formatted_buffer.hpp>
 #include <quor/serialization/serialize_buffer.hpp>
-#include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::serialization {
 
@@ -36,7 +36,7 @@ namespace QUOR_2_9::serialization {
 /// `at_end()` holds from there on. An empty nested buffer at the very end is read as null.
 /// Cost: an append or read is constant, or linear in the string.
 /// @since 2.9
-class QUOR_API serialize_binary_buf : public serialize_buffer {
+class QUOR_API serialize_binary_buf : public detail::formatted_buffer<detail::binary_format> {
 public:
 	using serialize_buffer::operator=;
 
@@ -53,80 +53,14 @@ public:
 	/// Copies content and read position; count and flag stay this object's own. @since 2.9
 	serialize_binary_buf &operator=(serialize_binary_buf const &other);
 
-	/// Takes `length` bytes; see `serialize_buffer`. The read position stays where it was: call
-	/// `reset_read()` to read the new content. @since 2.9
-	serialize_buffer &assign(char const *data, int length) override;
-	/// Takes the bytes; the read position stays. @since 2.9
-	serialize_buffer &assign(std::string const &bytes) override;
-	/// Takes the bytes of a buffer of any class; the read position stays. @since 2.9
-	serialize_buffer &assign(serialize_buffer const &other) override;
-	/// The bytes. @since 2.9
-	std::string const &as_str() const override;
-
-	/// Appends 1 byte. @since 2.9
-	void append_int8(signed char const &value) override;
-	/// Appends 2 bytes. @since 2.9
-	void append_int16(short const &value) override;
-	/// Appends 4 bytes. @since 2.9
-	void append_int32(types::int32 const &value) override;
-	/// Appends 8 bytes. @since 2.9
-	void append_int64(types::int64 const &value) override;
-	/// Appends 1 byte. @since 2.9
-	void append_uint8(unsigned char const &value) override;
-	/// Appends 2 bytes. @since 2.9
-	void append_uint16(unsigned short const &value) override;
-	/// Appends 4 bytes. @since 2.9
-	void append_uint32(types::uint32 const &value) override;
-	/// Appends 8 bytes. @since 2.9
-	void append_uint64(types::uint64 const &value) override;
-	/// Appends 4 bytes; the precision is ignored. @since 2.9
-	void append_float(float const &value, types::uint32 const &precision) override;
-	/// Appends 8 bytes; the precision is ignored. @since 2.9
-	void append_double(double const &value, types::uint32 const &precision) override;
-	/// Appends the count of the bytes in 4 bytes, and the bytes. @since 2.9
-	void append_string(std::string const &value) override;
-	/// Appends the content of a buffer of any class as a string. @since 2.9
-	void append_buffer(serialize_buffer const &value) override;
-
-	/// Reads 1 byte; 0 at the end. @since 2.9
-	signed char read_int8() const override;
-	/// Reads 2 bytes; 0 at the end. @since 2.9
-	short read_int16() const override;
-	/// Reads 4 bytes; 0 at the end. @since 2.9
-	types::int32 read_int32() const override;
-	/// Reads 8 bytes; 0 at the end. @since 2.9
-	types::int64 read_int64() const override;
-	/// Reads 1 byte; 0 at the end. @since 2.9
-	unsigned char read_uint8() const override;
-	/// Reads 2 bytes; 0 at the end. @since 2.9
-	unsigned short read_uint16() const override;
-	/// Reads 4 bytes; 0 at the end. @since 2.9
-	types::uint32 read_uint32() const override;
-	/// Reads 8 bytes; 0 at the end. @since 2.9
-	types::uint64 read_uint64() const override;
-	/// Reads 4 bytes; 0.0 at the end. @since 2.9
-	float read_float() const override;
-	/// Reads 8 bytes; 0.0 at the end. @since 2.9
-	double read_double() const override;
-	/// Reads a count and as many bytes; empty at the end. @since 2.9
-	std::string read_string() const override;
 	/// Reads a string into a new binary buffer, which the caller owns; null at the end and for
 	/// an empty buffer that is the last value. @since 2.9
 	serialize_buffer *read_buffer() const override;
-
-	/// Whether the read position is at or behind the end. @since 2.9
-	bool at_end() const override;
-	/// Goes back to the first value. @since 2.9
-	void reset_read() const override;
 
 	/// A new empty binary buffer; the caller owns it. @since 2.9
 	serialize_binary_buf *create() const override;
 	/// A copy with the read position and count of this buffer; the caller owns it. @since 2.9
 	serialize_binary_buf *clone() const override;
-
-private:
-	std::string buffer;
-	mutable types::uint32 read_pos = 0;
 };
 
 } // namespace QUOR_2_9::serialization
