@@ -29,6 +29,8 @@ namespace QUOR_2_9::types {
 
 namespace detail {
 
+struct held_text;
+
 /// Whether a pointer to `T` is no text: what it points to, but for `const`, is none of
 /// the three text units.
 template <class T>
@@ -229,6 +231,8 @@ public:
 	strings::ustring32 as_utf32() const;
 
 private:
+	friend struct detail::held_text;
+
 	memory::pointers::rc_pointer<variant_type> m_holder;
 };
 

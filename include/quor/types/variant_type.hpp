@@ -27,6 +27,10 @@
 
 namespace QUOR_2_9::types {
 
+namespace detail {
+struct held_text;
+}
+
 /// An immutable value of any type, with every conversion.
 ///
 /// What the conversions give is told at `variant`. The order of the virtual functions is
@@ -139,6 +143,8 @@ public:
 	long double as_long_double() const override;
 
 private:
+	friend struct detail::held_text;
+
 	T m_value;
 };
 
