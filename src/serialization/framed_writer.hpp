@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "serialization/contents.hpp"
 #include "serialization/text_fields.hpp"
 
 namespace QUOR_2_9::serialization::detail {
@@ -17,73 +18,108 @@ namespace QUOR_2_9::serialization::detail {
 /// it is nested in.
 class framed_writer {
 public:
-	/// Takes the memory of `text`, whose bytes are lost. A text of the same size as `text` is
-	/// written without moving a byte.
-	explicit framed_writer(std::string &&text) noexcept : m_text(std::move(text)), m_begin(m_text.size()) {}
+	/// Takes the memory of `text`, whose bytes are lost. Texts that are short, or of the same size
+	/// as `text`, are written without moving a byte more than once.
+	explicit framed_writer(std::string &&text) noexcept : m_text(std::move(text)) {}
+	framed_writer(framed_writer const &) = delete;
+	framed_writer &operator=(framed_writer const &) = delete;
+	~framed_writer() = default;
 
 	/// How many bytes are written.
-	std::size_t size() const noexcept { return m_text.size() - m_begin; }
+	std::size_t size() const noexcept { return m_capacity - m_begin; }
 
 	/// Puts the string `text` with `tail` behind it in front, with its length.
 	void put(std::string_view text, std::string_view tail = {}) {
-		char digits[number_field_size];
-		std::string_view const length = number_field(text.size() + tail.size(), digits);
-		make_room(length.size() + text.size() + tail.size() + 1);
-		put_bytes({&separator, 1});
+		std::size_t const length = text.size() + tail.size();
+		make_room(length_size(length) + length + 1);
+		put_byte(separator);
 		put_bytes(tail);
 		put_bytes(text);
-		put_bytes(length);
+		put_length(length);
 	}
 
 	/// Puts the end of a string in front, whose bytes are put next, and then its length.
 	void end_string() {
 		make_room(1);
-		put_bytes({&separator, 1});
+		put_byte(separator);
 	}
 
 	/// Puts the length of a string in front, all of whose bytes are written.
-	void begin_string(std::size_t size) {
-		char digits[number_field_size];
-		std::string_view const length = number_field(size, digits);
-		make_room(length.size());
-		put_bytes(length);
+	void begin_string(std::size_t length) {
+		make_room(length_size(length));
+		put_length(length);
 	}
 
 	/// The text.
 	std::string take() {
-		m_text.erase(0, m_begin);
+		if (m_first == m_short) {
+			m_text.assign(m_short + m_begin, size());
+		} else {
+			m_text.erase(0, m_begin);
+		}
 		return std::move(m_text);
 	}
 
 private:
-	/// Makes room in front, at least doubling what there is; more than that of what the string
-	/// has is not touched, as it may be much larger than the text.
+	/// Longer texts are written into the string.
+	static constexpr std::size_t short_size = 1024;
+
+	/// Makes room in front, at least doubling what there is; more than that, or than the last
+	/// text had, of what the string has is not touched, as it may be much larger than the text.
 	void make_room(std::size_t count) {
-		if (m_begin >= count) {
-			return;
-		}
-		std::size_t const written = size();
-		std::size_t const begin = m_begin;
-		std::size_t const wanted = 2 * m_text.size() + count;
-		if (m_text.capacity() >= written + count) {
-			m_text.resize(std::min(wanted, m_text.capacity()));
-			m_begin = m_text.size() - written;
-			std::memmove(m_text.data() + m_begin, m_text.data() + begin, written);
-		} else {
-			std::string larger(wanted, '\0');
-			m_begin = wanted - written;
-			m_text.copy(larger.data() + m_begin, written, begin);
-			m_text.swap(larger);
+		if (m_begin < count) {
+			grow(count);
 		}
 	}
+
+	void grow(std::size_t count) {
+		std::size_t const written = size();
+		bool const fits_last = m_first == m_short && m_text.size() >= written + count;
+		std::size_t const wanted = fits_last ? m_text.size() : 2 * m_capacity + count;
+		if (m_text.capacity() >= written + count) {
+			m_text.resize(std::min(wanted, m_text.capacity()));
+			m_capacity = m_text.size();
+			std::memmove(m_text.data() + m_capacity - written, m_first + m_begin, written);
+		} else {
+			std::string larger(wanted, '\0');
+			std::memcpy(larger.data() + wanted - written, m_first + m_begin, written);
+			m_text.swap(larger);
+			m_capacity = wanted;
+		}
+		m_first = m_text.data();
+		m_begin = m_capacity - written;
+	}
+
+	static std::size_t length_size(std::size_t length) noexcept {
+		std::size_t size = 2;
+		for (; length > 9; length /= 10) {
+			++size;
+		}
+		return size;
+	}
+
+	/// Puts a length as a field, its last digit first.
+	void put_length(std::size_t length) noexcept {
+		put_byte(separator);
+		for (; length > 9; length /= 10) {
+			put_byte(static_cast<char>('0' + length % 10));
+		}
+		put_byte(static_cast<char>('0' + length));
+	}
+
+	void put_byte(char byte) noexcept { m_first[--m_begin] = byte; }
 
 	void put_bytes(std::string_view bytes) noexcept {
 		m_begin -= bytes.size();
-		bytes.copy(m_text.data() + m_begin, bytes.size());
+		copy_text(m_first + m_begin, bytes.data(), bytes.size());
 	}
 
 	std::string m_text;
-	std::size_t m_begin = 0;
+	char m_short[short_size];
+	/// Where the text is written: the one or the other.
+	char *m_first = m_short;
+	std::size_t m_capacity = short_size;
+	std::size_t m_begin = short_size;
 };
 
 } // namespace QUOR_2_9::serialization::detail

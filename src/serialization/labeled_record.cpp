@@ -9,31 +9,44 @@ namespace {
 
 using entry_map = label_entries::entry_map;
 
-std::string_view stripped(std::string_view label) noexcept {
-	constexpr std::string_view blanks = " \n\r\t";
-	std::size_t const first = label.find_first_not_of(blanks);
-	if (first == std::string_view::npos) {
-		return {};
+bool is_stripped(char c) noexcept {
+	return c == ' ' || c == '\n' || c == '\r' || c == '\t';
+}
+
+label_view stripped(std::string_view label) noexcept {
+	while (!label.empty() && is_stripped(label.back())) {
+		label.remove_suffix(1);
 	}
-	return label.substr(first, label.find_last_not_of(blanks) + 1 - first);
+	while (!label.empty() && is_stripped(label.front())) {
+		label.remove_prefix(1);
+	}
+	return label_view(label);
 }
 
 /// Where a label stands or is to stand. Labels that come in their order need no search.
-entry_map::iterator place_of(entry_map &map, std::string_view label) {
-	if (map.empty() || map.rbegin()->first < label) {
+template <class Text>
+entry_map::iterator place_of(entry_map &map, ordered_label<Text> const &label) {
+	if (map.empty() || label_order()(map.rbegin()->first, label)) {
 		return map.end();
 	}
 	return map.lower_bound(label);
 }
 
-bool is_label(entry_map const &map, entry_map::const_iterator place, std::string_view label) {
-	return place != map.end() && place->first == label;
+/// Whether a label stands in its place.
+template <class Text>
+bool is_label(entry_map const &map, entry_map::const_iterator place, ordered_label<Text> const &label) {
+	return place != map.end() && !label_order()(label, place->first);
 }
 
 } // namespace
 
 entry_map const *labeled_record::map_if_any(labeled_text_buffer const &record) noexcept {
 	return record.entries && !record.entries->map.empty() ? &record.entries->map : nullptr;
+}
+
+entry_map const *labeled_record::map_if_any(label_entry const &entry) noexcept {
+	labeled_text_buffer const *const group = entry.group_if_any();
+	return group != nullptr ? map_if_any(*group) : nullptr;
 }
 
 entry_map &labeled_record::map_of(labeled_text_buffer &record) {
@@ -48,12 +61,12 @@ label_entry *labeled_record::find(labeled_text_buffer const &record, std::string
 		return nullptr;
 	}
 	entry_map &map = record.entries->map;
-	auto const found = map.find(label);
+	auto const found = map.find(label_view(label));
 	return found != map.end() ? &found->second : nullptr;
 }
 
 bool labeled_record::store_value(labeled_text_buffer &record, std::string_view label, types::variant const &value) {
-	std::string_view const name = stripped(label);
+	label_view const name = stripped(label);
 	entry_map &map = map_of(record);
 	auto const place = place_of(map, name);
 	if (!is_label(map, place, name)) {
@@ -66,15 +79,18 @@ bool labeled_record::store_value(labeled_text_buffer &record, std::string_view l
 }
 
 labeled_text_buffer &labeled_record::store_group(labeled_text_buffer &record, std::string_view label) {
-	std::string_view const name = stripped(label);
+	label_view const name = stripped(label);
 	entry_map &map = map_of(record);
 	auto const place = place_of(map, name);
 	if (!is_label(map, place, name)) {
 		return map.emplace_hint(place, std::piecewise_construct, std::forward_as_tuple(name), std::forward_as_tuple())
-		    ->second.group;
+		    ->second.group();
 	}
-	labeled_text_buffer &group = place->second.group;
-	release(std::move(group.entries));
+	labeled_text_buffer &group = place->second.group();
+	if (group.entries) {
+		release(take_nested(*group.entries, nullptr));
+		group.entries->map.clear();
+	}
 	return group;
 }
 
@@ -89,11 +105,9 @@ entries_pointer labeled_record::copy(labeled_text_buffer const &record) {
 		auto const [source, target] = open.back();
 		open.pop_back();
 		for (auto const &[label, entry] : *source) {
-			auto const added =
-			    target->emplace_hint(target->end(), std::piecewise_construct, std::forward_as_tuple(label),
-			                         std::forward_as_tuple(entry, labeled_text_buffer::without_entries()));
-			if (entry_map const *const nested = map_if_any(entry.group); nested != nullptr) {
-				open.emplace_back(nested, &map_of(added->second.group));
+			auto const added = target->emplace_hint(target->end(), label, entry);
+			if (entry_map const *const nested = map_if_any(entry); nested != nullptr) {
+				open.emplace_back(nested, &map_of(added->second.group()));
 			}
 		}
 	}
@@ -102,7 +116,6 @@ entries_pointer labeled_record::copy(labeled_text_buffer const &record) {
 
 void labeled_record::replace(labeled_text_buffer &record, entries_pointer entries) noexcept {
 	record.entries.swap(entries);
-	record.text_buffer.clear();
 	release(std::move(entries));
 }
 
@@ -114,7 +127,7 @@ void labeled_record::overlay(entries_pointer source, labeled_text_buffer &target
 		entries_pointer current = std::move(source);
 		source = std::move(current->next);
 		labeled_text_buffer &record = *current->target;
-		if (map_if_any(record) == nullptr) {
+		if (!record.entries) {
 			record.entries = std::move(current);
 			continue;
 		}
@@ -125,8 +138,8 @@ void labeled_record::overlay(entries_pointer source, labeled_text_buffer &target
 			if (!is_label(map, place, entry->first)) {
 				map.insert(place, current->map.extract(entry));
 			} else if (lay_value(entry->second, place->second)) {
-				entries_pointer &nested = entry->second.group.entries;
-				nested->target = &place->second.group;
+				entries_pointer &nested = entry->second.group().entries;
+				nested->target = &place->second.group();
 				nested->next = std::move(source);
 				source = std::move(nested);
 			}
@@ -135,23 +148,30 @@ void labeled_record::overlay(entries_pointer source, labeled_text_buffer &target
 }
 
 bool labeled_record::lay_value(label_entry const &source, label_entry &target) noexcept {
-	bool const has_group = map_if_any(source.group) != nullptr;
+	bool const has_group = map_if_any(source) != nullptr;
 	if (!has_group || source.value != types::nil) {
 		target.value = source.value;
 	}
 	return has_group;
 }
 
+entries_pointer labeled_record::take_nested(label_entries &from, entries_pointer list) noexcept {
+	for (auto &[label, entry] : from.map) {
+		if (entry.group_if_any() == nullptr) {
+			continue;
+		}
+		if (entries_pointer &nested = entry.group().entries; nested) {
+			nested->next = std::move(list);
+			list = std::move(nested);
+		}
+	}
+	return list;
+}
+
 void labeled_record::release(entries_pointer entries) noexcept {
 	while (entries) {
 		entries_pointer const emptied = std::move(entries);
-		entries = std::move(emptied->next);
-		for (auto &[label, entry] : emptied->map) {
-			if (entries_pointer &nested = entry.group.entries; nested) {
-				nested->next = std::move(entries);
-				entries = std::move(nested);
-			}
-		}
+		entries = take_nested(*emptied, std::move(emptied->next));
 	}
 }
 

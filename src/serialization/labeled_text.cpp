@@ -5,9 +5,12 @@
 #include "serialization/framed_reader.hpp"
 #include "serialization/framed_writer.hpp"
 #include "serialization/labeled_record.hpp"
+#include "types/held_text.hpp"
 
 namespace QUOR_2_9::serialization::detail {
 namespace {
+
+using entry_map = label_entries::entry_map;
 
 /// What is put behind the label of a group.
 constexpr char group_mark = ' ';
@@ -23,14 +26,18 @@ struct open_text {
 
 /// A record that is being written, from its last label to its first.
 struct open_record {
-	label_entries::entry_map::const_reverse_iterator next;
-	label_entries::entry_map::const_reverse_iterator end;
+	entry_map::const_reverse_iterator next;
+	entry_map::const_reverse_iterator end;
 	/// How many bytes were written before.
 	std::size_t mark;
 };
 
 void put_value(framed_writer &out, std::string_view label, types::variant const &value) {
-	out.put(value.as_string());
+	if (std::string const *const text = types::detail::held_text::of(value); text != nullptr) {
+		out.put(*text);
+	} else {
+		out.put(value.as_string());
+	}
 	out.put(label);
 }
 
@@ -57,13 +64,22 @@ void labeled_record::parse(std::string_view text, labeled_text_buffer &record) {
 	}
 }
 
-std::string labeled_record::render(labeled_text_buffer const &record, std::string &&memory) {
+std::string const &labeled_record::render(labeled_text_buffer const &record) {
+	static std::string const without_labels;
+	entry_map const *const map = map_if_any(record);
+	if (map == nullptr) {
+		return without_labels;
+	}
+	std::string &text = record.entries->text;
+	text = written(*map, std::move(text));
+	return text;
+}
+
+std::string labeled_record::written(entry_map const &map, std::string &&memory) {
 	framed_writer out(std::move(memory));
 	std::vector<open_record> open;
 	open.reserve(usual_depth);
-	if (auto const *const map = map_if_any(record); map != nullptr) {
-		open.push_back({map->rbegin(), map->rend(), 0});
-	}
+	open.push_back({map.rbegin(), map.rend(), 0});
 	while (!open.empty()) {
 		auto &[next, end, mark] = open.back();
 		if (next == end) {
@@ -72,16 +88,16 @@ std::string labeled_record::render(labeled_text_buffer const &record, std::strin
 			if (!open.empty()) {
 				auto const &[label, entry] = *open.back().next++;
 				out.begin_string(size);
-				out.put(label, {&group_mark, 1});
+				out.put(label.text, {&group_mark, 1});
 				if (entry.value != types::nil) {
-					put_value(out, label, entry.value);
+					put_value(out, label.text, entry.value);
 				}
 			}
-		} else if (auto const *const nested = map_if_any(next->second.group); nested != nullptr) {
+		} else if (auto const *const nested = map_if_any(next->second); nested != nullptr) {
 			out.end_string();
 			open.push_back({nested->rbegin(), nested->rend(), out.size()});
 		} else {
-			put_value(out, next->first, next->second.value);
+			put_value(out, next->first.text, next->second.value);
 			++next;
 		}
 	}

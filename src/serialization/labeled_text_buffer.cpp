@@ -16,15 +16,14 @@ labeled_text_buffer::labeled_text_buffer() = default;
 labeled_text_buffer::labeled_text_buffer(labeled_text_buffer const &other)
     : labeled_serialize_buffer(other), entries(labeled_record::copy(other)) {}
 
-labeled_text_buffer::labeled_text_buffer(labeled_text_buffer const &other, without_entries /*unused*/)
-    : labeled_serialize_buffer(other) {}
-
 labeled_text_buffer::labeled_text_buffer(std::string const &text) {
 	labeled_record::parse(text, *this);
 }
 
 labeled_text_buffer::~labeled_text_buffer() {
-	labeled_record::release(std::move(entries));
+	if (entries) {
+		labeled_record::release(std::move(entries));
+	}
 }
 
 labeled_text_buffer &labeled_text_buffer::operator=(labeled_text_buffer const &other) {
@@ -57,8 +56,7 @@ void labeled_text_buffer::overlay(labeled_text_buffer const &other) {
 }
 
 std::string const &labeled_text_buffer::as_str() const {
-	text_buffer = labeled_record::render(*this, std::move(text_buffer));
-	return text_buffer;
+	return labeled_record::render(*this);
 }
 
 labeled_serialize_buffer::result_type labeled_text_buffer::add_value(std::string const &label,
@@ -81,7 +79,8 @@ bool labeled_text_buffer::has_value(std::string const &label) const {
 
 bool labeled_text_buffer::has_group(std::string const &label) const {
 	label_entry const *const entry = labeled_record::find(*this, label);
-	return entry != nullptr && !entry->group.is_empty();
+	labeled_text_buffer const *const group = entry != nullptr ? entry->group_if_any() : nullptr;
+	return group != nullptr && !group->is_empty();
 }
 
 bool labeled_text_buffer::is_empty() const {
@@ -95,12 +94,12 @@ types::variant labeled_text_buffer::retrieve_value(std::string const &label) con
 
 labeled_serialize_buffer *labeled_text_buffer::retrieve_group(std::string const &label) {
 	label_entry *const entry = labeled_record::find(*this, label);
-	return entry != nullptr ? &entry->group : nullptr;
+	return entry != nullptr ? &entry->group() : nullptr;
 }
 
 labeled_serialize_buffer const *labeled_text_buffer::retrieve_group(std::string const &label) const {
-	label_entry const *const entry = labeled_record::find(*this, label);
-	return entry != nullptr ? &entry->group : nullptr;
+	label_entry *const entry = labeled_record::find(*this, label);
+	return entry != nullptr ? &entry->group() : nullptr;
 }
 
 labeled_text_buffer *labeled_text_buffer::create() const {

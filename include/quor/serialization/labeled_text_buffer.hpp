@@ -29,7 +29,6 @@
 namespace QUOR_2_9::serialization {
 
 namespace detail {
-struct label_entry;
 struct label_entries;
 struct labeled_record;
 } // namespace detail
@@ -171,15 +170,8 @@ public:
 	void overlay(labeled_text_buffer const &other);
 
 private:
-	friend struct detail::label_entry;
 	friend struct detail::labeled_record;
 
-	/// Which copy is made by the constructor below.
-	struct without_entries {};
-	/// An empty record with the count and the mark of `other`.
-	labeled_text_buffer(labeled_text_buffer const &other, without_entries);
-
-	mutable std::string text_buffer;
 	/// Null in most records without labels.
 	std::unique_ptr<detail::label_entries> entries;
 };
