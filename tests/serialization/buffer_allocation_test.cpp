@@ -168,4 +168,60 @@ TYPED_TEST(buffer_allocation, failure_changes_nothing) {
 	fail_everywhere([&] { std::unique_ptr<serialize_buffer> const made(nesting.create()); }, nesting.as_str(), nesting);
 }
 
+// Room that can't be had leaves the content as it was, also where nobody has seen it yet.
+TYPED_TEST(buffer_allocation, failure_to_grow_leaves_what_was_appended) {
+	std::string const long_text(500, 't');
+	TypeParam const long_buffer(long_text);
+	using append = void (*)(TypeParam &, std::string const &, TypeParam const &);
+	append const appends[] = {
+	    [](TypeParam &to, std::string const & /*text*/, TypeParam const & /*nested*/) { to.append_int8(1); },
+	    [](TypeParam &to, std::string const & /*text*/, TypeParam const & /*nested*/) { to.append_uint64(1); },
+	    [](TypeParam &to, std::string const & /*text*/, TypeParam const & /*nested*/) { to.append_double(1, 17); },
+	    [](TypeParam &to, std::string const &text, TypeParam const & /*nested*/) { to.append_string(text); },
+	    [](TypeParam &to, std::string const & /*text*/, TypeParam const &nested) { to.append_buffer(nested); }};
+	for (append const one : appends) {
+		for (std::size_t size = 0; size != 300; ++size) {
+			TypeParam made;
+			TypeParam expected;
+			for (std::size_t i = 0; i != size; ++i) {
+				made.append_int8(5);
+				expected.append_int8(5);
+			}
+			bool failed = false;
+			{
+				allocation_failure const failure(0);
+				try {
+					one(made, long_text, long_buffer);
+				} catch (std::bad_alloc const &) {
+					failed = true;
+				}
+			}
+			one(expected, long_text, long_buffer);
+			if (failed) {
+				one(made, long_text, long_buffer);
+			}
+			ASSERT_EQ(made.as_str(), expected.as_str()) << size;
+		}
+	}
+}
+
+// Looking at the content needs no memory, and a look a field costs no more than the fields.
+TYPED_TEST(buffer_allocation, looking_needs_no_memory) {
+	TypeParam buffer;
+	allocation_counter const counter;
+	for (int i = 0; i != 20000; ++i) {
+		buffer.append_int32(i);
+		static_cast<void>(buffer.as_str());
+	}
+	EXPECT_LE(counter.bytes(), 4 * buffer.as_str().size() + 300);
+	EXPECT_LE(counter.count(), 30U);
+	std::size_t const before = counter.count();
+	TypeParam fresh;
+	fresh.append_int8(1);
+	std::size_t const grown = counter.count();
+	static_cast<void>(fresh.as_str());
+	EXPECT_EQ(counter.count(), grown);
+	EXPECT_EQ(grown, before + 1);
+}
+
 } // namespace

@@ -193,11 +193,12 @@ int main() {
 	check("size of serialization::serialize_buffer", counted, sizeof(quor::serialization::serialize_buffer));
 	check("size of serialization::labeled_serialize_buffer", counted,
 	      sizeof(quor::serialization::labeled_serialize_buffer));
-	check("size of serialization::serialize_binary_buf", counted + sizeof(std::string) + sizeof(void *),
+	constexpr std::size_t stored = sizeof(std::string) + sizeof(std::size_t) + 8;
+	check("size of serialization::serialize_binary_buf", counted + stored,
 	      sizeof(quor::serialization::serialize_binary_buf));
-	check("size of serialization::serialize_text_buf", counted + sizeof(std::string) + sizeof(void *),
+	check("size of serialization::serialize_text_buf", counted + stored,
 	      sizeof(quor::serialization::serialize_text_buf));
-	check("size of serialization::labeled_text_buffer", counted + sizeof(std::string) + sizeof(void *),
+	check("size of serialization::labeled_text_buffer", counted + sizeof(void *),
 	      sizeof(quor::serialization::labeled_text_buffer));
 	check("size of types::absolute_unit", 8 + sizeof(double), sizeof(quor::types::absolute_unit));
 	check("size of types::device_unit", 2 * sizeof(void *), sizeof(quor::types::device_unit));
