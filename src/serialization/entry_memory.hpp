@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 namespace QUOR_2_9::serialization::detail {
@@ -21,9 +22,9 @@ public:
 		}
 	}
 
-	/// Memory for one more entry.
+	/// Memory for one more entry, of a type that is aligned as 64 bits are.
 	void *take(std::size_t size) {
-		std::size_t const place_size = sizeof(block *) + size;
+		std::size_t const place_size = sizeof(owner) + (size + alignment - 1) / alignment * alignment;
 		if (m_used == m_count) {
 			std::size_t const count = std::clamp<std::size_t>(2 * m_count, 1, most_in_block);
 			auto *const added = static_cast<block *>(::operator new(sizeof(block) + count * place_size));
@@ -38,18 +39,26 @@ public:
 		char *const place = reinterpret_cast<char *>(m_block + 1) + m_used * place_size;
 		++m_used;
 		++m_block->users;
-		return ::new (place) block *(m_block) + 1;
+		return ::new (place) owner{m_block} + 1;
 	}
 
 	/// Takes an entry's memory back, whichever record took it.
-	static void give_back(void *entry) noexcept { let_go(*(static_cast<block **>(entry) - 1)); }
+	static void give_back(void *entry) noexcept { let_go((static_cast<owner *>(entry) - 1)->its); }
+
+	/// How entries may be aligned.
+	static constexpr std::size_t alignment = alignof(std::uint64_t);
 
 private:
 	static constexpr std::size_t most_in_block = 8;
 
-	struct block {
+	struct alignas(alignment) block {
 		/// The entries, and the record that takes from it.
 		std::size_t users;
+	};
+
+	/// What stands before an entry.
+	struct alignas(alignment) owner {
+		block *its;
 	};
 
 	static void let_go(block *one) noexcept {
@@ -74,7 +83,7 @@ public:
 	entry_allocator(entry_allocator<Other> const &other) noexcept : m_memory(other.m_memory) {}
 
 	T *allocate(std::size_t count) {
-		static_assert(alignof(T) <= sizeof(void *), "entries lie behind pointers");
+		static_assert(alignof(T) <= entry_memory::alignment);
 		return static_cast<T *>(m_memory->take(count * sizeof(T)));
 	}
 	void deallocate(T *entry, std::size_t /*count*/) noexcept { entry_memory::give_back(entry); }

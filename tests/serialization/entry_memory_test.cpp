@@ -3,6 +3,7 @@
 #include "serialization/entry_memory.hpp"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <new>
@@ -113,11 +114,11 @@ TEST(entry_memory, failure_changes_nothing) {
 TEST(entry_memory, allocators_are_equal) {
 	entry_memory first;
 	entry_memory second;
-	entry_allocator<int> const one(first);
-	entry_allocator<int> const other(second);
+	entry_allocator<std::uint64_t> const one(first);
+	entry_allocator<std::uint64_t> const other(second);
 	EXPECT_TRUE(one == other);
 	EXPECT_FALSE(one != other);
-	entry_allocator<void *> rebound(one);
+	entry_allocator<double> rebound(one);
 	rebound.deallocate(rebound.allocate(1), 1);
 }
 
