@@ -459,7 +459,8 @@ void check_units(failures &into) {
 	HOLDS(makes_lengths(types::ulong_t(2)) && makes_lengths(std::size_t(2)) && makes_lengths(std::int64_t(2)));
 	HOLDS(makes_lengths(static_cast<short>(2)) && makes_lengths(static_cast<unsigned char>(2)) && makes_lengths('\2'));
 	HOLDS(convert::to_md(0.5, 5).as_md() == 50000 && convert::to_md(7, 99).as_md() == 7);
-	HOLDS(types::absolute_unit::m_md_per_inch == 100000 && &types::absolute_unit::m_md_per_inch != nullptr);
+	types::int64 const *const md_per_inch = &types::absolute_unit::m_md_per_inch; // has a place of its own
+	HOLDS(*md_per_inch == 100000);
 	types::color_t color(0x11223344);
 	color = 5;
 	HOLDS(color.as_int32() == 5 && color == types::color_t(5L) && types::color_t::rgb(5L) == color.assign(5));
