@@ -56,7 +56,7 @@ std::vector<int32> interesting_numbers() {
 	}
 	std::mt19937 random(3);
 	for (int i = 0; i != 60; ++i) {
-		numbers.push_back(wrapped(random()) >> (random() % 31));
+		numbers.push_back(wrapped(static_cast<std::int64_t>(random())) >> (random() % 31));
 	}
 	return numbers;
 }
