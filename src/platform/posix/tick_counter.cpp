@@ -16,8 +16,8 @@ std::uint64_t nanoseconds() noexcept {
 } // namespace
 
 std::uint64_t counter_ticks() noexcept {
-	std::uint64_t const ticks = nanoseconds();
-	return ticks != 0 ? ticks : 1;
+	// One more than the clock shows, as that may be 0.
+	return nanoseconds() + 1;
 }
 
 std::uint64_t counter_frequency() noexcept {

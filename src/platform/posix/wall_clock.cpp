@@ -7,23 +7,17 @@
 namespace QUOR_2_9::platform {
 namespace {
 
-timespec now() noexcept {
-	timespec result;
-	clock_gettime(CLOCK_REALTIME, &result);
-	return result;
-}
-
 wall_clock_fields fields_of(tm const *parts, long nanoseconds) noexcept {
 	wall_clock_fields fields;
 	// Null for a year beyond what an int holds.
 	if (parts != nullptr) {
-		fields.year = static_cast<unsigned>(parts->tm_year) + 1900U;
-		fields.month = static_cast<unsigned>(parts->tm_mon) + 1U;
-		fields.day = static_cast<unsigned>(parts->tm_mday);
-		fields.hour = static_cast<unsigned>(parts->tm_hour);
-		fields.minute = static_cast<unsigned>(parts->tm_min);
-		fields.second = static_cast<unsigned>(parts->tm_sec);
-		fields.millisecond = static_cast<unsigned>(nanoseconds / 1000000);
+		fields.year = static_cast<std::uint32_t>(parts->tm_year) + 1900U;
+		fields.month = static_cast<std::uint16_t>(parts->tm_mon + 1);
+		fields.day = static_cast<std::uint16_t>(parts->tm_mday);
+		fields.hour = static_cast<std::uint16_t>(parts->tm_hour);
+		fields.minute = static_cast<std::uint16_t>(parts->tm_min);
+		fields.second = static_cast<std::uint16_t>(parts->tm_sec);
+		fields.millisecond = static_cast<std::uint16_t>(nanoseconds / 1000000);
 	}
 	return fields;
 }
@@ -41,11 +35,15 @@ wall_clock_fields utc_fields(timespec const &moment) noexcept {
 }
 
 wall_clock_fields local_wall_clock() noexcept {
-	return local_fields(now());
+	timespec now;
+	clock_gettime(CLOCK_REALTIME, &now);
+	return local_fields(now);
 }
 
 wall_clock_fields utc_wall_clock() noexcept {
-	return utc_fields(now());
+	timespec now;
+	clock_gettime(CLOCK_REALTIME, &now);
+	return utc_fields(now);
 }
 
 } // namespace QUOR_2_9::platform
