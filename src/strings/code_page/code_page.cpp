@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 
 #include <quor/exceptions/logic_error.hpp>
@@ -24,15 +25,16 @@ std::size_t end_of_text(std::string const &text) noexcept {
 }
 
 std::size_t end_of_text(ustring16 const &text) noexcept {
-	constexpr std::size_t step = 16;
+	constexpr std::size_t step = 32;
 	wide_char const *const units = text.data();
 	std::size_t at = 0;
 	for (; text.size() - at >= step; at += step) {
-		bool zero = false;
+		// Without a way out in the middle, so that the step can be one of vectors.
+		std::uint16_t zeros = 0;
 		for (std::size_t i = 0; i != step; ++i) {
-			zero |= units[at + i] == 0;
+			zeros = static_cast<std::uint16_t>(zeros | (units[at + i] == 0 ? 1U : 0U));
 		}
-		if (zero) {
+		if (zeros != 0) {
 			break;
 		}
 	}
@@ -42,27 +44,84 @@ std::size_t end_of_text(ustring16 const &text) noexcept {
 	return at;
 }
 
+/// The length to tell the service, with the zero that ends the text; -1 where no number
+/// of its width is large enough.
+template <class Text>
+int32 told_length(Text const &text) noexcept {
+	std::size_t const length = end_of_text(text) + 1;
+	return length <= static_cast<std::size_t>(std::numeric_limits<int32>::max()) ? static_cast<int32>(length) : -1;
+}
+
 /// Asks the service twice, for the size and for the result. The zero that ends the text
 /// is converted with it and is the one unit that doesn't fit into the result.
 template <class Result, class Text, class Service>
-Result convert(Text const &text, Service service) {
-	std::size_t const length = end_of_text(text) + 1;
-	bool const fits = length <= static_cast<std::size_t>(std::numeric_limits<int32>::max());
-	int32 const told = fits ? static_cast<int32>(length) : -1;
-	int32 const count = service(text.c_str(), told, nullptr, int32(0));
+Result convert_measured(Text const &text, int32 length, Service service) {
+	int32 const count = service(text.c_str(), length, nullptr, int32(0));
 	Result result;
 	// The service answers 0 where it fails; no string has the size that this makes.
 	result.resize(static_cast<std::size_t>(static_cast<std::ptrdiff_t>(count) - 1));
 	if (!result.empty()) {
-		service(text.c_str(), told, result.data(), static_cast<int32>(count - 1));
+		service(text.c_str(), length, result.data(), static_cast<int32>(count - 1));
 	}
 	return result;
 }
 
+/// The same where no unit becomes more than `most`, in most cases with one call. A short
+/// text goes through a place that is there already. For a longer one the room is taken
+/// first, hardly more than is needed in most cases, unless it could be too much.
+template <class Result, class Text, class Service>
+Result convert(Text const &text, std::size_t most, Service service) {
+	constexpr std::size_t short_room = 256;
+	int32 const length = told_length(text);
+	std::size_t const room = length > 0 ? static_cast<std::size_t>(length) * most : 0;
+	if (room == 0 || room > static_cast<std::size_t>(std::numeric_limits<int32>::max()) ||
+	    (most > 2 && room > short_room)) {
+		return convert_measured<Result>(text, length, service);
+	}
+	typename Result::value_type units[short_room];
+	Result result;
+	if (room > short_room) {
+		result.resize(room);
+	}
+	int32 const count =
+	    service(text.c_str(), length, room > short_room ? result.data() : units, static_cast<int32>(room));
+	if (count <= 0) {
+		return convert_measured<Result>(text, length, service);
+	}
+	auto const size = static_cast<std::size_t>(count - 1);
+	if (room <= short_room) {
+		result.assign(units, size);
+		return result;
+	}
+	result.resize(size);
+	if (size < result.capacity() / 4 * 3) {
+		result.shrink_to_fit();
+	}
+	return result;
+}
+
+/// How many bytes a unit takes at most in a page of the system. Where a page of the
+/// process takes more the service fails, and the text is measured.
+std::size_t most_bytes(uint32 page) noexcept {
+	switch (page) {
+	case 0:
+	case 1:
+	case 65001:
+		return 3;
+	case 932:
+	case 936:
+	case 949:
+	case 950:
+		return 2;
+	default:
+		return 1;
+	}
+}
+
 template <class Result>
 Result decode(uint32 page, std::string const &text) {
-	return convert<Result>(text, [page](char const *units, int32 length, wide_char *out, int32 size) {
-		return platform::multi_byte_to_wide(page, units, length, out, size);
+	return convert<Result>(text, 1, [page](char const *bytes, int32 length, wide_char *out, int32 size) {
+		return platform::multi_byte_to_wide(page, bytes, length, out, size);
 	});
 }
 
@@ -199,9 +258,10 @@ std::string code_page::encode(ustring8 const &text) const {
 
 std::string code_page::encode(ustring16 const &text) const {
 	auto const page = static_cast<uint32>(to_system_type(m_type));
-	return convert<std::string>(text, [page](wide_char const *units, int32 length, char *out, int32 size) {
-		return platform::wide_to_multi_byte(page, units, length, out, size);
-	});
+	return convert<std::string>(text, most_bytes(page),
+	                            [page](wide_char const *units, int32 length, char *out, int32 size) {
+		                            return platform::wide_to_multi_byte(page, units, length, out, size);
+	                            });
 }
 
 std::string code_page::encode(ustring32 const &text) const {

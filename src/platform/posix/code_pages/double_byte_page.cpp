@@ -1,13 +1,19 @@
 #include "platform/posix/code_pages/double_byte_page.hpp"
 
-#include "platform/posix/code_pages/ascii_run.hpp"
+#include <algorithm>
+#include <cstddef>
+
 #include "platform/posix/code_pages/surrogates.hpp"
 #include "platform/posix/code_pages/unit_sink.hpp"
+#include "platform/posix/code_pages/unit_words.hpp"
 
 namespace QUOR_2_9::platform {
 namespace {
 
 using types::wide_char;
+
+/// How many units are converted in one step while there are so many.
+constexpr std::size_t step = 16;
 
 constexpr std::size_t column_count(double_byte_page const &page, user_area const &area) noexcept {
 	return page.columns[area.last_trail] - page.columns[area.first_trail] + 1U;
@@ -49,7 +55,7 @@ struct character {
 character next_character(double_byte_page const &page, unsigned char const *in, unsigned char const *end) noexcept {
 	unsigned const row = page.rows[in[0]];
 	if (row == not_a_lead) {
-		return {in[0] < 0x80 ? char16_t(in[0]) : page.singles[in[0] - 0x80], 1};
+		return {page.singles[in[0]], 1};
 	}
 	std::size_t const column = end - in > 1 ? page.columns[in[1]] : no_column;
 	if (column == no_column) {
@@ -59,19 +65,53 @@ character next_character(double_byte_page const &page, unsigned char const *in, 
 	return {unit != no_character ? unit : user_character(page, in[0], in[1]), 2};
 }
 
+/// As long as there is room for all that may come, without looking for it at each unit.
+unsigned char const *decode_steps(double_byte_page const &page, unsigned char const *in, unsigned char const *end,
+                                  unit_writer<wide_char> &writer) noexcept {
+	wide_char *out = writer.at();
+	wide_char *const last = out + writer.room();
+	while (static_cast<std::size_t>(end - in) >= step && static_cast<std::size_t>(last - out) >= step) {
+		if (all_below<0x80, step>(in)) {
+			out = std::copy_n(in, step, out);
+			in += step;
+			continue;
+		}
+		unsigned char const *const stop = in + step - 1;
+		while (in < stop) {
+			char16_t unit = page.singles[*in];
+			if (unit != no_character) {
+				*out++ = unit;
+				++in;
+				continue;
+			}
+			unsigned const row = page.rows[in[0]];
+			unsigned const column = page.columns[in[1]];
+			std::size_t bytes = 2;
+			unit = row < lead_without_row && column != no_column ? page.pairs[row * page.width + column] : no_character;
+			if (unit == no_character) {
+				character const next = next_character(page, in, end);
+				unit = next.unit;
+				bytes = next.bytes;
+			}
+			*out++ = unit;
+			in += bytes;
+		}
+	}
+	writer.continue_at(out);
+	return in;
+}
+
+unsigned char const *decode_steps(double_byte_page const &, unsigned char const *in, unsigned char const *,
+                                  unit_counter<wide_char> &) noexcept {
+	return in;
+}
+
 template <class Sink>
 void decode(double_byte_page const &page, std::string_view text, Sink &sink) {
 	auto const *in = reinterpret_cast<unsigned char const *>(text.data());
 	auto const *const end = in + text.size();
+	in = decode_steps(page, in, end, sink);
 	while (in != end) {
-		if (*in < 0x80) {
-			std::size_t const run = ascii_run(in, end);
-			if (!sink.copy(in, run)) {
-				return;
-			}
-			in += run;
-			continue;
-		}
 		character const next = next_character(page, in, end);
 		if (!sink.put(next.unit)) {
 			return;
@@ -80,32 +120,70 @@ void decode(double_byte_page const &page, std::string_view text, Sink &sink) {
 	}
 }
 
-template <class Sink>
-void encode(double_byte_page const &page, std::basic_string_view<wide_char> text, Sink &sink) {
-	wide_char const *in = text.data();
-	wide_char const *const end = in + text.size();
+/// Whether the page has a character is told by a code above 0.
+unsigned code_of(double_byte_page const &page, wide_char unit) noexcept {
+	unsigned code = page.codes[unit];
+	if (code == 0) {
+		code = user_code(page, unit);
+	}
+	return code != 0 || unit == 0 ? code : '?';
+}
+
+void encode_rest(double_byte_page const &page, wide_char const *in, wide_char const *end, unit_writer<char> &writer) {
 	while (in != end) {
-		if (*in < 0x80) {
-			std::size_t const run = ascii_run(in, end);
-			if (!sink.copy(in, run)) {
-				return;
-			}
-			in += run;
-			continue;
-		}
-		unsigned code = page.codes[*in];
-		std::size_t units = 1;
-		if (code == 0) {
-			code = user_code(page, *in);
-			code = code != 0 ? code : '?';
-			units = next_point(in, end).units;
-		}
-		if (!(code < 0x100 ? sink.put(static_cast<unsigned char>(code))
-		                   : sink.put(static_cast<unsigned char>(code >> 8), static_cast<unsigned char>(code)))) {
+		unsigned const code = code_of(page, *in);
+		if (!(code < 0x100 ? writer.put(code) : writer.put(code >> 8, code & 0xFF))) {
 			return;
 		}
-		in += units;
+		in += next_point(in, end).units;
 	}
+}
+
+void encode(double_byte_page const &page, std::basic_string_view<wide_char> text, unit_writer<char> &writer) {
+	wide_char const *in = text.data();
+	wide_char const *const end = in + text.size();
+	auto const codes = page.codes;
+	char *out = writer.at();
+	char *const last = out + writer.room();
+	while (in != end && last - out >= 2) {
+		auto const units = static_cast<std::size_t>(end - in);
+		std::size_t const fit = std::min(units, static_cast<std::size_t>(last - out) / 2);
+		if (fit >= step && all_below<0x80, step>(in)) {
+			out = std::transform(in, in + step, out, [](wide_char unit) { return static_cast<char>(unit); });
+			in += step;
+			continue;
+		}
+		for (wide_char const *const stop = in + std::min(fit, step); in < stop; ++in) {
+			unsigned code = codes[*in];
+			if (code == 0) {
+				code = code_of(page, *in);
+				in += next_point(in, end).units - 1;
+			}
+			// Both bytes are written, and the second one again where there is one alone.
+			out[0] = static_cast<char>(code >> 8);
+			out += code > 0xFF ? 1 : 0;
+			*out++ = static_cast<char>(code);
+		}
+	}
+	writer.continue_at(out);
+	encode_rest(page, in, end, writer);
+}
+
+std::size_t encoded_size(double_byte_page const &page, std::basic_string_view<wide_char> text) noexcept {
+	auto const codes = page.codes;
+	std::size_t size = text.size();
+	for (std::size_t i = 0; i != text.size(); ++i) {
+		unsigned code = codes[text[i]];
+		if (code == 0) {
+			code = code_of(page, text[i]);
+			if (next_point(text.data() + i, text.data() + text.size()).units == 2) {
+				++i;
+				--size;
+			}
+		}
+		size += code > 0xFF ? 1 : 0;
+	}
+	return size;
 }
 
 } // namespace
@@ -117,7 +195,12 @@ types::int32 double_byte_to_wide(double_byte_page const &page, std::string_view 
 
 types::int32 wide_to_double_byte(double_byte_page const &page, std::basic_string_view<wide_char> text, char *out,
                                  types::int32 out_size) {
-	return with_sink(out, out_size, [&](auto &sink) { encode(page, text, sink); });
+	if (out == nullptr || out_size == 0) {
+		return size_result(encoded_size(page, text));
+	}
+	unit_writer<char> writer(out, out_size);
+	encode(page, text, writer);
+	return writer.result();
 }
 
 } // namespace QUOR_2_9::platform

@@ -56,10 +56,10 @@ struct double_byte_page {
 	std::array<std::uint8_t, 256> trails;
 	std::array<user_area, 5> user_areas;
 	std::size_t width;
-	/// The characters of the bytes from 80 on alone, and of the pairs, row by row.
+	/// The characters of the bytes alone, and of the pairs, row by row.
 	char16_t const *singles;
 	char16_t const *pairs;
-	/// The byte or pair of each unit from 80 on, except user-defined ones; 0 for none.
+	/// The byte or pair of each unit, except user-defined ones; 0 for none.
 	code_index_view<std::uint16_t, std::uint16_t> codes;
 };
 
@@ -98,6 +98,9 @@ constexpr double_byte_page bytes_of(page_layout const &layout) noexcept {
 template <class Take>
 constexpr void each_code(page_layout const &layout, char16_t const *singles, char16_t const *pairs, Take take) {
 	double_byte_page const page = bytes_of(layout);
+	for (unsigned byte = 1; byte != 0x80; ++byte) {
+		take(static_cast<char16_t>(byte), static_cast<std::uint16_t>(byte));
+	}
 	for (unsigned byte = 0x80; byte != 0x100; ++byte) {
 		if (singles[byte - 0x80] != no_character) {
 			take(singles[byte - 0x80], static_cast<std::uint16_t>(byte));
@@ -123,11 +126,19 @@ constexpr void each_code(page_layout const &layout, char16_t const *singles, cha
 template <page_layout const &Layout, auto const &Singles, auto const &Pairs>
 struct page_tables {
 	static constexpr auto each = [](auto take) { each_code(Layout, Singles, Pairs, take); };
-	static constexpr auto codes = make_index<std::uint16_t, std::uint16_t, count_blocks(each)>(0, each);
+	static constexpr auto codes = make_index<std::uint16_t, std::uint16_t, count_blocks(0, each)>(0, 0, each);
+
+	static constexpr std::array<char16_t, 256> characters = [] {
+		std::array<char16_t, 256> result{};
+		for (unsigned byte = 0; byte != 0x100; ++byte) {
+			result[byte] = byte < 0x80 ? static_cast<char16_t>(byte) : Singles[byte - 0x80];
+		}
+		return result;
+	}();
 
 	static constexpr double_byte_page page() noexcept {
 		double_byte_page result = bytes_of(Layout);
-		result.singles = Singles;
+		result.singles = characters.data();
 		result.pairs = Pairs;
 		result.codes.block_of = codes.block_of.data();
 		result.codes.values = codes.values.data();

@@ -12,6 +12,10 @@
 
 namespace QUOR_2_9::platform {
 
+/// The units below this one have their bytes at their own place: those of nearly all
+/// letters of these pages.
+constexpr unsigned direct_units = 0x800;
+
 /// A page ready for use. Every byte has a character, and ASCII is the same in all pages.
 struct single_byte_page {
 	/// The character of each of the 256 bytes.
@@ -24,6 +28,7 @@ namespace detail {
 
 template <auto const &High>
 struct single_byte_tables {
+	static constexpr std::uint8_t own_blocks = direct_units / 64;
 	static constexpr std::array<char16_t, 256> characters = [] {
 		std::array<char16_t, 256> result{};
 		for (unsigned byte = 0; byte != 0x100; ++byte) {
@@ -36,7 +41,8 @@ struct single_byte_tables {
 			take(characters[byte], static_cast<std::uint8_t>(byte));
 		}
 	};
-	static constexpr auto codes = make_index<std::uint8_t, std::uint8_t, count_blocks(each)>('?', each);
+	static constexpr auto codes =
+	    make_index<std::uint8_t, std::uint8_t, count_blocks(own_blocks, each)>(own_blocks, '?', each);
 
 	static constexpr single_byte_page page() noexcept {
 		return {characters.data(), {codes.block_of.data(), codes.values.data()}};

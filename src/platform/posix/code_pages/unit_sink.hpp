@@ -10,6 +10,11 @@
 
 namespace QUOR_2_9::platform {
 
+/// A size as the service tells it: 0 where it has no number for it.
+constexpr types::int32 size_result(std::uint64_t size) noexcept {
+	return size <= std::uint64_t(std::numeric_limits<types::int32>::max()) ? static_cast<types::int32>(size) : 0;
+}
+
 /// Where a conversion puts its units when only their number is asked for.
 template <class Unit>
 class unit_counter {
@@ -20,16 +25,7 @@ public:
 		m_count += sizeof...(units);
 		return true;
 	}
-	/// Takes a run of units that stay as they are.
-	template <class Source>
-	bool copy(Source const *, std::size_t count) noexcept {
-		m_count += count;
-		return true;
-	}
-	types::int32 result() const noexcept {
-		return m_count <= std::size_t(std::numeric_limits<types::int32>::max()) ? static_cast<types::int32>(m_count)
-		                                                                        : 0;
-	}
+	types::int32 result() const noexcept { return size_result(m_count); }
 
 private:
 	std::uint64_t m_count = 0;
@@ -50,27 +46,23 @@ public:
 		((*m_at++ = static_cast<Unit>(units)), ...);
 		return true;
 	}
-	template <class Source>
-	bool copy(Source const *from, std::size_t count) noexcept {
-		std::size_t const taken = std::min(count, room());
-		m_at = std::transform(from, from + taken, m_at, [](Source unit) { return static_cast<Unit>(unit); });
-		m_full = taken != count;
+	/// The same for units that stand one behind the other.
+	bool put_all(Unit const *units, std::size_t count) noexcept {
+		m_full = m_full || room() < count;
+		if (!m_full) {
+			m_at = std::copy_n(units, count, m_at);
+		}
 		return !m_full;
 	}
-	/// Room for a whole step of `Count` units; null where there is less.
-	template <std::size_t Count>
-	Unit *claim() noexcept {
-		if (room() < Count) {
-			return nullptr;
-		}
-		m_at += Count;
-		return m_at - Count;
-	}
+	/// Where the next unit goes, for loops that write by themselves: there is place for
+	/// `room()` units, and `continue_at` tells where they stopped.
+	Unit *at() const noexcept { return m_at; }
+	std::size_t room() const noexcept { return static_cast<std::size_t>(m_end - m_at); }
+	void continue_at(Unit *at) noexcept { m_at = at; }
+
 	types::int32 result() const noexcept { return m_full ? 0 : static_cast<types::int32>(m_at - m_begin); }
 
 private:
-	std::size_t room() const noexcept { return static_cast<std::size_t>(m_end - m_at); }
-
 	Unit *m_begin;
 	Unit *m_at;
 	Unit *m_end;
