@@ -38,7 +38,7 @@ void append_bytes(stored_bytes &stored, char const *bytes, std::size_t count) {
 	if (stored.lent) {
 		stored.bytes.append(bytes, count);
 	} else {
-		std::memcpy(next_byte(stored), bytes, count);
+		copy_text(next_byte(stored), bytes, count);
 	}
 	stored.size += count;
 }

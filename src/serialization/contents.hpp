@@ -78,14 +78,14 @@ void copy_words(char *to, char const *from, std::size_t first, std::size_t secon
 }
 
 /// Copies bytes of another place. Most texts are short and of differing sizes: from 4 to 16 bytes
-/// none of the branches depends on the size.
+/// none of the branches depends on the size. There may be none, from nowhere.
 inline void copy_text(char *to, char const *from, std::size_t size) noexcept {
 	constexpr std::size_t word = 4;
 	if (size - word <= 3 * word) {
 		std::size_t const middle = size / (2 * word) * word;
 		copy_words<types::uint32>(to, from, middle, size - word - middle, size - word);
 	} else {
-		std::memcpy(to, from, size);
+		std::char_traits<char>::copy(to, from, size);
 	}
 }
 
