@@ -203,6 +203,13 @@ int main() {
 	check("size of types::absolute_unit", 8 + sizeof(double), sizeof(quor::types::absolute_unit));
 	check("size of types::device_unit", 2 * sizeof(void *), sizeof(quor::types::device_unit));
 	check("size of types::color_t", 4, sizeof(quor::types::color_t));
+	check("size of system::date_time::date", 12, sizeof(quor::system::date_time::date));
+	check("size of system::date_time::time", 16, sizeof(quor::system::date_time::time));
+	check("size of system::date_time::date_time_t", 28, sizeof(quor::system::date_time::date_time_t));
+	check("size of system::date_time::date_duration", 4, sizeof(quor::system::date_time::date_duration));
+	check("size of system::date_time::time_duration", 8, sizeof(quor::system::date_time::time_duration));
+	check("size of system::date_time::milliseconds", 8, sizeof(quor::system::date_time::milliseconds));
+	check("size of system::date_time::timer", 32, sizeof(quor::system::date_time::timer));
 	check_variant_slots();
 	check_unit_slots();
 	check_callable_slots();

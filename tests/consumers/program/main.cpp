@@ -13,13 +13,17 @@ namespace {
 // Looks at the nil objects when it is made and when it is destroyed.
 class early_user {
 public:
-	early_user() : m_count(found()) {}
+	early_user() : m_count(found()) {
+		// The timers' overhead has been measured by now and nobody will measure it again.
+		quor::system::date_time::timer::overhead_microseconds(overhead);
+	}
 	~early_user() {
 		if (found() != 5) {
 			std::cout << "a nil object has gone too early\n";
 		}
 	}
 	int count() const { return m_count; }
+	static constexpr unsigned overhead = 4;
 
 private:
 	static int found() {
@@ -56,5 +60,12 @@ int main() {
 	    quor::i18n::message_item("bytes", quor::i18n::message_item::type_memory_unit),
 	});
 	std::cout << message.as_string(arguments) << '\n';
+	quor::system::date_time::date day(31, 12, 2023);
+	day += 1;
+	std::cout << day.day() << '.' << day.month() << '.' << day.year() << '\n';
+	quor::system::date_time::timer watch;
+	watch.start();
+	std::cout << "timer runs: " << watch.is_timer_running() << ", overhead "
+	          << quor::system::date_time::timer::overhead_microseconds() << '\n';
 	return 0;
 }

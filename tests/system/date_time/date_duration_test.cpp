@@ -69,9 +69,10 @@ TEST(date_duration, sums_and_differences_wrap_around) {
 
 TEST(date_duration, an_object_may_be_its_own_argument) {
 	date_duration duration(21);
-	duration += duration;
+	date_duration const &same = duration;
+	duration += same;
 	EXPECT_EQ(duration.days(), 42);
-	duration -= duration;
+	duration -= same;
 	EXPECT_EQ(duration.days(), 0);
 }
 

@@ -197,9 +197,10 @@ TEST(time_duration, assign_takes_over_the_time) {
 	EXPECT_EQ(duration.total_milliseconds(), 0);
 	EXPECT_EQ(&duration.assign(of(largest)), &duration);
 	EXPECT_EQ(duration.total_milliseconds(), largest);
-	duration += duration;
+	time_duration const &same = duration;
+	duration += same;
 	EXPECT_EQ(duration.total_milliseconds(), -2);
-	duration -= duration;
+	duration -= same;
 	EXPECT_EQ(duration.total_milliseconds(), 0);
 }
 

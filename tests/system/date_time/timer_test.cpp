@@ -81,7 +81,8 @@ TEST(timer, time_goes_on_while_it_runs) {
 TEST(timer, overhead_is_measured_at_load_and_can_be_replaced) {
 	auto const measured = timer::overhead_microseconds();
 	EXPECT_LT(measured, 1000000U);
-	EXPECT_NE(&date_time::sAutoTester, nullptr);
+	date_time::TimerOverheadTester const *const tester = &date_time::sAutoTester;
+	EXPECT_NE(tester, nullptr);
 	timer::overhead_microseconds(7);
 	EXPECT_EQ(timer::overhead_microseconds(), 7U);
 	EXPECT_EQ(timer::m_overheadMicroseconds, 7U);
