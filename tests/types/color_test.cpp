@@ -17,15 +17,13 @@ static_assert(sizeof(color_t) == 4 && alignof(color_t) == alignof(int32));
 static_assert(std::is_trivially_copyable_v<color_t> && std::is_standard_layout_v<color_t>);
 static_assert(std::is_nothrow_default_constructible_v<color_t> && std::is_nothrow_constructible_v<color_t, int32>);
 static_assert(std::is_convertible_v<int32, color_t> && std::is_convertible_v<int, color_t>);
-static_assert(std::is_same_v<decltype(color_t::rgb(5)), color_t> &&
-              std::is_same_v<decltype(color_t::rgba(5)), color_t>);
-static_assert(std::is_same_v<decltype(color_t().assign(5)), color_t const &> &&
-              std::is_same_v<decltype(color_t().assign(color_t())), color_t const &> &&
-              std::is_same_v<decltype(color_t() = 5), color_t const &>);
-static_assert(std::is_same_v<decltype(color_t().as_int32()), int32> &&
-              std::is_same_v<decltype(color_t().as_rgb()), int32> &&
-              std::is_same_v<decltype(color_t().red()), unsigned char> &&
-              std::is_same_v<decltype(color_t().red(1)), unsigned char>);
+template <class Result, class... Results>
+constexpr bool all_are = (std::is_same_v<Result, Results> && ...);
+static_assert(all_are<color_t, decltype(color_t::rgb(5)), decltype(color_t::rgba(5))>);
+static_assert(all_are<color_t const &, decltype(color_t().assign(5)), decltype(color_t().assign(color_t())),
+                      decltype(color_t() = 5)>);
+static_assert(all_are<int32, decltype(color_t().as_int32()), decltype(color_t().as_rgb())>);
+static_assert(all_are<unsigned char, decltype(color_t().red()), decltype(color_t().red(1))>);
 
 // A colour is a constant of a program.
 constexpr color_t paper(255, 250, 240);

@@ -35,9 +35,9 @@ static_assert(std::is_nothrow_constructible_v<device_unit, double> &&
               std::is_nothrow_copy_constructible_v<device_unit>);
 static_assert(!std::is_convertible_v<char const *, device_unit> && !std::is_convertible_v<void *, device_unit>);
 static_assert(std::is_same_v<std::underlying_type_t<device_unit::unit_types>, int>);
-static_assert(std::is_same_v<decltype(device_unit().as_int32()), int32> &&
-              std::is_same_v<decltype(device_unit().as_float()), float> &&
-              std::is_same_v<decltype(device_unit().as_double()), double>);
+static_assert(std::is_same_v<decltype(device_unit().as_int32()), int32>);
+static_assert(std::is_same_v<decltype(device_unit().as_float()), float>);
+static_assert(std::is_same_v<decltype(device_unit().as_double()), double>);
 
 // ---- values -----------------------------------------------------------------------------
 

@@ -122,6 +122,7 @@ private:
 /// `Unit` that isn't listed it has that type and the value 0.
 /// @since 2.9
 template <int Unit>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): the table has no destructor
 class QUOR_API_TYPE basic_absolute_impl : public absolute_unit {
 public:
 	using absolute_unit::absolute_unit;

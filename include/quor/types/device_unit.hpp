@@ -27,7 +27,7 @@ namespace QUOR_2_9::types {
 /// infinities are 0. Nothing throws. Thread-safety: plain value. An object isn't deleted
 /// through a pointer to a base, since the destructor isn't virtual.
 /// @since 2.9
-class QUOR_API device_unit {
+class QUOR_API device_unit { // NOLINT(cppcoreguidelines-virtual-class-destructor): the table has no destructor
 public:
 	/// What the number counts.
 	/// @since 2.9

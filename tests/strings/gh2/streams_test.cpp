@@ -18,9 +18,9 @@ using QUOR_2_9::types::wide_char;
 using QUOR_2_9::types::wide_string;
 using strings::ustring16;
 
-static_assert(std::is_same_v<decltype(gh2::ucin), std::wistream &> &&
-              std::is_same_v<decltype(gh2::ucout), std::wostream &> &&
-              std::is_same_v<decltype(gh2::ucerr), std::wostream &>);
+static_assert(std::is_same_v<decltype(gh2::ucin), std::wistream &>);
+static_assert(std::is_same_v<decltype(gh2::ucout), std::wostream &>);
+static_assert(std::is_same_v<decltype(gh2::ucerr), std::wostream &>);
 
 TEST(gh2_streams, are_the_standard_ones) {
 	EXPECT_EQ(&gh2::ucin, &std::wcin);

@@ -28,17 +28,14 @@ using quor_test::made_locale;
 
 template <class Text>
 using widened = decltype(gh2::to_ustring(std::declval<Text>()));
-static_assert(std::is_same_v<widened<char const (&)[3]>, wide_string> && std::is_same_v<widened<char *>, wide_string>);
-static_assert(std::is_same_v<widened<std::string>, wide_string> && std::is_same_v<widened<ustring8 &>, wide_string>);
-static_assert(std::is_same_v<widened<wide_char const (&)[3]>, wide_string>);
-static_assert(std::is_same_v<widened<wide_string>, wide_string> && std::is_same_v<widened<ustring16 &>, wide_string>);
-static_assert(std::is_same_v<decltype(gh2::to_utf8(QUOR_W("x"))), std::string> &&
-              std::is_same_v<decltype(gh2::to_utf8(ustring16())), std::string> &&
-              std::is_same_v<decltype(gh2::to_ansi(QUOR_W("x"))), std::string> &&
-              std::is_same_v<decltype(gh2::from_ansi("x")), wide_string> &&
-              std::is_same_v<decltype(gh2::to_widechar(QUOR_W("x"))), wide_string> &&
-              std::is_same_v<decltype(gh2::tolower(QUOR_W("X"))), wide_string> &&
-              std::is_same_v<decltype(gh2::toupper(ustring16())), wide_string>);
+template <class Result, class... Results>
+constexpr bool all_are = (std::is_same_v<Result, Results> && ...);
+static_assert(all_are<wide_string, widened<char const (&)[3]>, widened<char *>, widened<std::string>,
+                      widened<ustring8 &>, widened<wide_char const (&)[3]>, widened<wide_string>, widened<ustring16 &>,
+                      decltype(gh2::from_ansi("x")), decltype(gh2::to_widechar(QUOR_W("x"))),
+                      decltype(gh2::tolower(QUOR_W("X"))), decltype(gh2::toupper(ustring16()))>);
+static_assert(all_are<std::string, decltype(gh2::to_utf8(QUOR_W("x"))), decltype(gh2::to_utf8(ustring16())),
+                      decltype(gh2::to_ansi(QUOR_W("x")))>);
 
 TEST(gh2, replaces_through_the_same_header) {
 	wide_string text(QUOR_W("a-b-c"));
