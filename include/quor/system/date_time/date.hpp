@@ -62,7 +62,8 @@ public:
 	}
 
 	/// The stored day, limited to the month's length: 28 for a stored 31 February 2023. 0
-	/// where the month isn't one of 1 to 12.
+	/// where the month isn't one of 1 to 12. A month of 31 days gives the stored day as it
+	/// stands, also one beyond 31 that came in through `basic_date`.
 	constexpr unsigned int day() const noexcept { return get_days(); }
 
 	/// Stores the day, 1 to 31 in every month, and returns it.
@@ -92,7 +93,7 @@ public:
 	/// The same as `day()`.
 	constexpr unsigned int get_days() const noexcept {
 		unsigned int const length = detail::month_length(month(), year());
-		return basic_date::day() < length ? basic_date::day() : length;
+		return basic_date::day() < length || length == max_days_in_month ? basic_date::day() : length;
 	}
 
 	/// The serial number of the stored day; 1 March of the year 0 has the number 1, and 1
