@@ -95,7 +95,7 @@ Result convert(Text const &text, std::size_t most, Service service) {
 	}
 	result.resize(size);
 	if (size < result.capacity() / 4 * 3) {
-		result.shrink_to_fit();
+		Result(result.data(), size).swap(result);
 	}
 	return result;
 }
