@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cctype>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <type_traits>
 #include <utility>
 
 #include <quor/strings/native_wide.hpp>
@@ -48,6 +50,13 @@ Result converted_by(Service const &service, Text const &text) {
 		return static_cast<std::size_t>(
 		    service(utf8_page, text.data(), static_cast<int32>(text.size()), out, static_cast<int32>(size)));
 	});
+}
+
+/// Whether a unit of the C library's wide text stands for a character; its UTF-8 goes on
+/// behind the last one, U+10FFFF.
+constexpr bool is_character(wchar_t unit) noexcept {
+	using number = std::conditional_t<sizeof(wchar_t) == sizeof(wide_char), std::uint16_t, types::uint32>;
+	return static_cast<number>(unit) < 0x110000;
 }
 
 /// Maps each unit through a function of the C library, which knows the values of a byte
@@ -99,7 +108,8 @@ std::string to_ansi(wide_string const &text) {
 wide_string from_ansi(std::string const &text) {
 	auto const native = converted<std::wstring>(
 	    [&text](wchar_t *out, std::size_t size) { return std::mbstowcs(out, text.c_str(), size); });
-	return to_ustring(from_native_wide(native));
+	return std::all_of(native.begin(), native.end(), is_character) ? to_ustring(from_native_wide(native))
+	                                                               : wide_string();
 }
 
 wide_string tolower(wide_string const &text) {

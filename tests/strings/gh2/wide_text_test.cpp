@@ -236,6 +236,10 @@ TEST(gh2_ansi, in_a_utf_8_locale_everything_passes) {
 	EXPECT_EQ(gh2::from_ansi("a\xFF"), QUOR_W(""));
 	EXPECT_EQ(gh2::from_ansi("\xE2\x82"), QUOR_W(""));
 	EXPECT_EQ(gh2::from_ansi("\xED\xA0\x80"), QUOR_W(""));
+	// Behind U+10FFFF, in the forms of four, five and six bytes that some C libraries take.
+	for (char const *const text : {"a\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFC\x84\x80\x80\x80\x80"}) {
+		EXPECT_EQ(gh2::from_ansi(text), QUOR_W(""));
+	}
 }
 
 TEST(gh2_ansi, in_a_single_byte_locale_its_characters_pass) {
