@@ -113,11 +113,8 @@ bool stream_reader::parse_opening_tag() {
 		throw parser::status_syntax;
 	}
 	bool const available = m_path.size() < m_open_depth && name != "include";
-	if (available) {
-		if (root.empty()) {
-			root = name;
-		}
-		m_path.emplace_back(name);
+	if (available && root.empty()) {
+		root = name;
 	}
 	new_node(name, parser::status_more_input, available);
 	forget_attribute_names();
@@ -141,6 +138,9 @@ void stream_reader::fill(node &made, std::string_view name, error_type node_stat
 void stream_reader::new_node(std::string_view name, error_type node_status, bool available) {
 	auto const position = queue.prepare();
 	m_open.emplace_back(name, position, !available);
+	if (available) {
+		m_path.emplace_back(name);
+	}
 	unsigned int const parent_id = m_ids.empty() ? 0 : m_ids.back();
 	fill(position->value, name, node_status, available, m_next_id, parent_id);
 	m_ids.push_back(m_next_id);
@@ -165,6 +165,9 @@ bool stream_reader::parse_empty_end() {
 }
 
 void stream_reader::close_tag() {
+	if (m_open.empty()) {
+		throw parser::status_tag_mismatch;
+	}
 	open_element const &closed = m_open.back();
 	closed.node->value.m_status = parser::status_ok;
 	closed.node->value.m_available = true;

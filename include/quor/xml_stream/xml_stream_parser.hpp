@@ -259,7 +259,7 @@ protected:
 	void parse_next();
 	/// Queues the node of an element that opens, which becomes the innermost one.
 	void new_node(std::string_view name, error_type status, bool available);
-	/// Completes the innermost open element, a deep one or an empty tag.
+	/// Completes the innermost open element, a deep one or an empty tag; throws 4 without one.
 	void close_tag();
 	/// Queues the closing node of a shallow element.
 	void end_of_open_node(std::string_view name, error_type status);
