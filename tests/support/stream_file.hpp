@@ -39,7 +39,11 @@ public:
 		write(content);
 		return {path(), open_depth};
 	}
-	void write(std::string const &content) const { m_directory.write("file.xml", content); }
+	// A new file each time: some systems wait for the disk when one that was cut is written.
+	void write(std::string const &content) const {
+		remove();
+		m_directory.write("file.xml", content);
+	}
 	void remove() const { std::filesystem::remove(m_directory.root() / "file.xml"); }
 	QUOR_2_9::strings::ustring8 path() const { return m_directory.path("file.xml"); }
 	temporary_directory const &directory() const { return m_directory; }

@@ -102,7 +102,9 @@ public:
 	std::vector<reference::stream_node> nodes; // all that were taken out
 
 private:
+	// A new file each time: some systems wait for the disk when one that was cut is written.
 	void write(std::string const &content) const {
+		std::filesystem::remove(m_path);
 		std::ofstream(m_path, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
 	}
 

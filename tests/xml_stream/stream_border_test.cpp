@@ -72,7 +72,7 @@ TEST(stream_border, faults_are_the_same_across_it) {
 TEST(stream_border, batches_are_those_of_the_reference) {
 	stream_file const file;
 	std::string body = "<r>";
-	for (int i = 0; i != 12000; ++i) {
+	for (int i = 0; i != 6000; ++i) {
 		body += "<e n='" + std::to_string(i) + "'>" + (i % 7 == 0 ? "<f/>" : "text") + "</e>\n";
 	}
 	for (unsigned int depth = 0; depth != 3; ++depth) {

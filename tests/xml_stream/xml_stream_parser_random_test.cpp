@@ -115,7 +115,7 @@ void step(stream_pair &pair, random_stream &random) {
 
 TEST(xml_stream_parser_random, the_parser_does_what_the_reference_does) {
 	temporary_directory const directory;
-	for (unsigned int seed = 0; seed != 400; ++seed) {
+	for (unsigned int seed = 0; seed != 1500; ++seed) {
 		random_stream random(seed);
 		std::string text = random.document();
 		text = seed % 3 == 0 ? text : random.changed(text);
@@ -129,7 +129,7 @@ TEST(xml_stream_parser_random, the_parser_does_what_the_reference_does) {
 
 TEST(xml_stream_parser_random, files_that_change_give_what_the_reference_gives) {
 	temporary_directory const directory;
-	for (unsigned int seed = 0; seed != 150; ++seed) {
+	for (unsigned int seed = 0; seed != 600; ++seed) {
 		random_stream random(seed);
 		std::string const whole = random.changed(random.document());
 		std::size_t size = random.below(whole.size() + 1);
