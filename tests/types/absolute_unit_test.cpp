@@ -272,7 +272,7 @@ TEST(absolute_unit, whole_numbers_out_of_range_keep_their_low_32_bits) {
 }
 
 // A class of a client's own.
-class own_unit : public absolute_unit {
+class own_unit final : public absolute_unit {
 public:
 	using absolute_unit::absolute_unit;
 	unit_types do_type() const override { return cm; }

@@ -16,7 +16,8 @@ using QUOR_2_9::types::int32;
 static_assert(sizeof(color_t) == 4 && alignof(color_t) == alignof(int32));
 static_assert(std::is_trivially_copyable_v<color_t> && std::is_standard_layout_v<color_t>);
 static_assert(std::is_nothrow_default_constructible_v<color_t> && std::is_nothrow_constructible_v<color_t, int32>);
-static_assert(std::is_convertible_v<int32, color_t> && std::is_convertible_v<int, color_t>);
+static_assert(std::is_convertible_v<int32, color_t>);
+static_assert(std::is_convertible_v<int, color_t>);
 template <class Result, class... Results>
 constexpr bool all_are = (std::is_same_v<Result, Results> && ...);
 static_assert(all_are<color_t, decltype(color_t::rgb(5)), decltype(color_t::rgba(5))>);

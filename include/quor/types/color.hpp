@@ -112,7 +112,7 @@ private:
 	unsigned char m_alpha = 0;
 };
 
-static_assert(sizeof(color_t) == 4 && alignof(color_t) == 4 && std::is_trivially_copyable_v<color_t>);
+static_assert(sizeof(color_t) == 4 && std::is_trivially_copyable_v<color_t>);
 
 } // namespace QUOR_2_9::types
 
