@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <cctype>
 #include <cstddef>
-#include <cstdint>
 #include <cstdlib>
 #include <limits>
-#include <type_traits>
 #include <utility>
 
 #include <quor/strings/native_wide.hpp>
@@ -53,10 +51,9 @@ Result converted_by(Service const &service, Text const &text) {
 }
 
 /// Whether a unit of the C library's wide text stands for a character; its UTF-8 goes on
-/// behind the last one, U+10FFFF.
+/// behind the last one, U+10FFFF. A unit of 16 bits always does.
 constexpr bool is_character(wchar_t unit) noexcept {
-	using number = std::conditional_t<sizeof(wchar_t) == sizeof(wide_char), std::uint16_t, types::uint32>;
-	return static_cast<number>(unit) < 0x110000;
+	return static_cast<types::uint32>(unit) >> 16 <= 0x10;
 }
 
 /// Maps each unit through a function of the C library, which knows the values of a byte
