@@ -28,8 +28,9 @@ public:
 	/// Copies the value, and the count and the mark of the group, but not its labels.
 	label_entry(label_entry const &other) : value(other.value) {
 		if (other.m_group) {
-			counted &group = m_group.emplace();
-			group = *other.m_group;
+			counted const &theirs = *other.m_group;
+			counted &ours = m_group.emplace();
+			ours = theirs;
 		}
 	}
 	label_entry &operator=(label_entry const &other) = delete;

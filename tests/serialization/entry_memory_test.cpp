@@ -63,10 +63,11 @@ TEST(entry_memory, blocks_grow_to_eight_entries) {
 	{
 		entry_memory memory;
 		std::vector<std::size_t> const expected{1, 2, 2, 3, 3, 3, 3, 4, 4, 4, 4, 4, 4, 4, 4, 5, 5, 5, 5, 5, 5, 5, 5, 6};
+		std::vector<void *> entries;
+		entries.reserve(expected.size());
 		std::size_t const before = counter.count();
-		void *entries[24];
 		for (std::size_t i = 0; i != expected.size(); ++i) {
-			entries[i] = memory.take(16);
+			entries.push_back(memory.take(16));
 			EXPECT_EQ(counter.count() - before, expected[i]) << i;
 		}
 		for (void *const entry : entries) {

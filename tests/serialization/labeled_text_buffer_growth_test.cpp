@@ -145,7 +145,7 @@ TEST(labeled_text_growth, all_that_reads_a_record_is_linear) {
 			labeled_text_buffer record(text);
 			written[round] = cost_of([&] { static_cast<void>(record.as_str()); });
 			EXPECT_LE(written[round].bytes, 16 * text.size() + 4096);
-			copied[round] = cost_of([&] { labeled_text_buffer const copy(record); });
+			copied[round] = cost_of([&] { static_cast<void>(labeled_text_buffer(record)); });
 			labeled_text_buffer target(record);
 			laid_over[round] = cost_of([&] { target.overlay(record); });
 			EXPECT_TRUE(target.as_str() == record.as_str());
@@ -199,7 +199,9 @@ TEST(labeled_text_growth, asking_allocates_nothing) {
 // take many seconds.
 TEST(labeled_text_growth, small_texts_after_a_large_one_are_quick) {
 	labeled_text_buffer record;
-	record.add_value("v", std::string(64000000, 'x'));
+	std::string large;
+	large.resize(64000000, 'x');
+	record.add_value("v", large);
 	EXPECT_EQ(record.as_str().size(), 64000014U);
 	record.add_value("v", 1);
 	auto const start = std::chrono::steady_clock::now();
@@ -361,7 +363,7 @@ TEST(labeled_text_growth, running_out_of_memory_changes_nothing) {
 	expect_no_change("overlay of a group", [](labeled_text_buffer &record) {
 		record.overlay(dynamic_cast<labeled_text_buffer &>(*record.retrieve_group("g")));
 	});
-	expect_no_change("copy", [](labeled_text_buffer const &record) { labeled_text_buffer const copy(record); });
+	expect_no_change("copy", [](labeled_text_buffer const &record) { static_cast<void>(labeled_text_buffer(record)); });
 	expect_no_change("clone", [](labeled_text_buffer const &record) { delete record.clone(); });
 	expect_no_change("create", [](labeled_text_buffer const &record) { delete record.create(); });
 	expect_no_change("read", [&](labeled_text_buffer const &) { labeled_text_buffer const read(other_text); });
