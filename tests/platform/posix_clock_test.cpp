@@ -51,10 +51,9 @@ private:
 };
 
 std::time_t seconds_of(int year, unsigned month, unsigned day, int hour, int minute, int second) {
-	using namespace std::chrono;
-	sys_days const date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
-	return static_cast<std::time_t>((date.time_since_epoch() + hours(hour) + minutes(minute) + seconds(second)) /
-	                                seconds(1));
+	std::chrono::sys_days const date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
+	return static_cast<std::time_t>(date.time_since_epoch() / std::chrono::seconds(1)) + hour * 3600 + minute * 60 +
+	       second;
 }
 
 std::string joined(std::initializer_list<long long> numbers) {
@@ -144,11 +143,10 @@ TEST(posix_clock, random_moments_are_those_of_chrono_and_of_the_c_library) {
 			    seconds_of(0, 1, 1, 0, 0, 0) + static_cast<std::time_t>(random() % 315569520000U);
 			auto const milliseconds = static_cast<unsigned>(random() % 1000);
 			timespec const now = {moment, static_cast<long>(milliseconds) * 1000000 + 999999};
-			using namespace std::chrono;
-			sys_seconds const time{seconds(moment)};
-			auto const day = floor<days>(time);
-			year_month_day const date(day);
-			hh_mm_ss const clock(time - day);
+			std::chrono::sys_seconds const time{std::chrono::seconds(moment)};
+			auto const day = std::chrono::floor<std::chrono::days>(time);
+			std::chrono::year_month_day const date(day);
+			std::chrono::hh_mm_ss const clock(time - day);
 			auto const expected = joined({static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
 			                              static_cast<unsigned>(date.day()), clock.hours().count(),
 			                              clock.minutes().count(), clock.seconds().count(), milliseconds});

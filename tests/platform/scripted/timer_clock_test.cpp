@@ -34,8 +34,8 @@ at_load const loaded;
 // Resets the overhead and the clock.
 class timer_clock : public testing::Test {
 protected:
-	timer_clock() { timer::overhead_microseconds(0); }
-	~timer_clock() override { timer::overhead_microseconds(0); }
+	void SetUp() override { timer::overhead_microseconds(0); }
+	void TearDown() override { timer::overhead_microseconds(0); }
 
 	quor_test::scripted_clock &clock = fresh_clock();
 };

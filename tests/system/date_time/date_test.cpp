@@ -21,7 +21,8 @@ using quor_test::out_of_range_of;
 
 static_assert(sizeof(date) == 12 && std::is_trivially_copyable_v<date> && std::is_base_of_v<basic_date, date>);
 static_assert(std::is_convertible_v<date *, basic_date *>);
-static_assert(std::is_same_v<decltype(date().day()), unsigned> && std::is_same_v<decltype(date().day(1)), unsigned>);
+static_assert(std::is_same_v<decltype(date().day()), unsigned>);
+static_assert(std::is_same_v<decltype(date().day(1)), unsigned>);
 static_assert(std::is_same_v<decltype(date().get_days()), unsigned>);
 static_assert(std::is_same_v<decltype(date::max_days_in_month), unsigned const>);
 static_assert(date::max_months_in_year == 12 && date::max_weeks_in_year == 52 && date::max_days_in_month == 31);

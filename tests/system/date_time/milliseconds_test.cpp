@@ -15,7 +15,8 @@ using quor::types::int64;
 
 static_assert(sizeof(milliseconds) == 8 && std::is_trivially_copyable_v<milliseconds>);
 static_assert(std::is_convertible_v<milliseconds *, time_duration *>);
-static_assert(std::is_convertible_v<int64, milliseconds> && std::is_convertible_v<milliseconds, int>);
+static_assert(std::is_convertible_v<int64, milliseconds>);
+static_assert(std::is_convertible_v<milliseconds, int>);
 static_assert(!std::is_convertible_v<int, time_duration>);
 static_assert(std::is_same_v<decltype(milliseconds(1) + milliseconds(2)), time_duration>);
 static_assert(std::is_same_v<decltype(milliseconds(1) - milliseconds(2)), time_duration>);

@@ -26,7 +26,8 @@ using day_time = date_time::time;
 
 static_assert(sizeof(day_time) == 16 && std::is_trivially_copyable_v<day_time>);
 static_assert(std::is_convertible_v<day_time *, basic_time *>);
-static_assert(std::is_same_v<decltype(day_time().hour()), int> && std::is_same_v<decltype(day_time().hour(1)), int>);
+static_assert(std::is_same_v<decltype(day_time().hour()), int>);
+static_assert(std::is_same_v<decltype(day_time().hour(1)), int>);
 static_assert(std::is_same_v<decltype(day_time::max_hour), unsigned const>);
 static_assert(day_time::min_hour == 0 && day_time::max_hour == 23 && day_time::min_minute == 0);
 static_assert(day_time::max_minute == 59 && day_time::min_second == 0 && day_time::max_second == 59);
