@@ -56,6 +56,7 @@ TEST(get_utf8_length, looks_at_the_first_byte_alone) {
 TEST(get_utf8_length, no_text_is_0) {
 	EXPECT_EQ(gh2::get_utf8_length(static_cast<char const *>(nullptr), 5), 0U);
 	EXPECT_EQ(gh2::get_utf8_length(static_cast<unsigned char const *>(nullptr), 5), 0U);
+	EXPECT_EQ(gh2::get_utf8_length(nullptr, 5), 0U);
 	EXPECT_EQ(gh2::get_utf8_length("a", 0), 0U);
 	EXPECT_EQ(gh2::get_utf8_length(static_cast<char const *>(nullptr), 0), 0U);
 }
@@ -63,6 +64,7 @@ TEST(get_utf8_length, no_text_is_0) {
 TEST(validate_utf8, no_text_is_not_valid) {
 	EXPECT_FALSE(gh2::validate_utf8(static_cast<char const *>(nullptr), 5));
 	EXPECT_FALSE(gh2::validate_utf8(static_cast<unsigned char const *>(nullptr), 5));
+	EXPECT_FALSE(gh2::validate_utf8(nullptr, 5));
 	EXPECT_FALSE(gh2::validate_utf8("a", 0));
 }
 

@@ -23,6 +23,8 @@
 ///
 /// @since 2.9
 
+#include <cstddef>
+
 #include <quor/version.hpp>
 
 namespace QUOR_2_9::strings::gh2 {
@@ -77,6 +79,10 @@ constexpr unsigned int get_utf8_length(char const *text, unsigned int length) no
 constexpr unsigned int get_utf8_length(unsigned char const *text, unsigned int length) noexcept {
 	return detail::first_size(text, length);
 }
+/// No text, written as `nullptr`: 0. @since 2.9
+constexpr unsigned int get_utf8_length(std::nullptr_t, unsigned int) noexcept {
+	return 0;
+}
 
 /// Whether the text begins with a whole sequence whose further bytes are all of the form
 /// 10xxxxxx. What stands behind it isn't looked at: "A\xFF" passes. False where there is no
@@ -88,6 +94,10 @@ constexpr bool validate_utf8(char const *text, unsigned int length) noexcept {
 /// The same. @since 2.9
 constexpr bool validate_utf8(unsigned char const *text, unsigned int length) noexcept {
 	return detail::has_form(text, length);
+}
+/// No text, written as `nullptr`: false. @since 2.9
+constexpr bool validate_utf8(std::nullptr_t, unsigned int) noexcept {
+	return false;
 }
 
 } // namespace QUOR_2_9::strings::gh2
