@@ -19,8 +19,9 @@
 ///   it or as `?`; elsewhere, as on Windows, it makes the stream go bad, and what comes after
 ///   is lost until `clear()`. Bytes that the locale can't read end the input.
 /// - A program writes to standard output either wide or narrow, never both: the first
-///   operation decides, and those of the other kind fail from then on. The same goes for
-///   each of the other two streams.
+///   operation decides, and what those of the other kind write from then on may be lost or
+///   come out as other bytes, while their stream stays good. The same goes for each of the
+///   other two streams.
 ///
 /// The three can be used from constructors and destructors of static objects of every module
 /// that is linked to the library.
