@@ -19,7 +19,9 @@ int32 low_bits(Native const &value) noexcept {
 
 device_unit::device_unit(double const &value) noexcept : m_value(detail::whole_int32(value)) {}
 
-device_unit::device_unit(float const &value) noexcept : m_value(detail::whole_int32(static_cast<double>(value))) {}
+device_unit::device_unit(float const &value) noexcept : m_value(detail::whole_int32(value)) {}
+
+device_unit::device_unit(long double const &value) noexcept : m_value(detail::whole_int32(value)) {}
 
 device_unit::device_unit(native_long64 const &value) noexcept : m_value(low_bits(value)) {}
 

@@ -37,7 +37,8 @@ constexpr double as_md(double length, int unit) noexcept {
 }
 
 /// The low 32 bits of the whole part.
-inline int32 whole_int32(double value) noexcept {
+template <class Floating>
+int32 whole_int32(Floating value) noexcept {
 	return static_cast<int32>(static_cast<uint32>(support::whole_part(value)));
 }
 

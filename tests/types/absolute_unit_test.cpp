@@ -24,7 +24,7 @@ constexpr bool all_convert = (std::is_convertible_v<Numbers, basic_absolute_impl
 
 static_assert(std::is_abstract_v<absolute_unit> && !std::is_destructible_v<absolute_unit>);
 static_assert(all_convert<int, unsigned int, types::int32, types::uint32, types::long_t, types::int64, types::uint64>);
-static_assert(all_convert<long, unsigned long, short, char, bool, float, double, basic_absolute_impl<5>>);
+static_assert(all_convert<long, unsigned long, short, char, bool, float, double, long double, basic_absolute_impl<5>>);
 static_assert(!std::is_convertible_v<char const *, basic_absolute_impl<5>>);
 static_assert(std::is_same_v<std::underlying_type_t<absolute_unit::unit_types>, int>);
 static_assert(std::is_same_v<decltype(absolute_unit::m_md_per_inch), types::int64 const> &&
@@ -187,6 +187,7 @@ TEST(absolute_unit, constructors_take_md_and_cut_the_fraction) {
 	EXPECT_EQ(md_of(inches(2.9)), 2.0);
 	EXPECT_EQ(md_of(inches(-2.9)), -2.0);
 	EXPECT_EQ(md_of(inches(2.9F)), 2.0);
+	EXPECT_EQ(md_of(inches(-2.9L)), -2.0);
 	EXPECT_EQ(md_of(inches(0.9)), 0.0);
 	EXPECT_EQ(md_of(inches(7)), 7.0);
 	EXPECT_EQ(md_of(inches(std::numeric_limits<int32>::min())), -2147483648.0);

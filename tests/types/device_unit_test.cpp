@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <random>
 #include <type_traits>
@@ -28,6 +29,7 @@ constexpr bool all_assign =
 static_assert(all_convert<types::long_t, types::ulong_t, double, float, signed char, short, int, unsigned int>);
 static_assert(all_convert<types::int64, unsigned char, unsigned short, types::uint64, types::int32, types::uint32>);
 static_assert(all_convert<long, unsigned long, bool, char, wchar_t, char16_t, std::size_t, std::ptrdiff_t>);
+static_assert(all_convert<long double> && all_assign<long double>);
 static_assert(all_assign<types::long_t, double, float, signed char, short, int, unsigned int, types::int64>);
 static_assert(all_assign<unsigned char, unsigned short, types::uint64, types::int32, types::uint32, long, bool>);
 static_assert(all_assign<device_unit, device_unit const &, types::ulong_t, unsigned long, char>);
@@ -124,6 +126,11 @@ TEST(device_unit, floating_numbers_lose_their_fraction_and_what_does_not_fit) {
 		EXPECT_EQ(assigned.assign(r.value).as_int32(), r.expected) << r.value;
 	}
 	EXPECT_EQ(device_unit(2.9F).as_int32(), 2);
+	EXPECT_EQ(device_unit(-2.9L).as_int32(), -2);
+	EXPECT_EQ(device_unit(4294967301.5L).as_int32(), 5);
+	EXPECT_EQ(device_unit(std::nextafter(3.0L, 0.0L)).as_int32(), 2);
+	EXPECT_EQ(device_unit(std::numeric_limits<long double>::max()).as_int32(), 0);
+	EXPECT_EQ(device_unit(std::numeric_limits<long double>::infinity()).as_int32(), 0);
 	EXPECT_EQ(device_unit(-8589934592.0F).as_int32(), 0);
 	EXPECT_EQ(device_unit(4294967808.0F).as_int32(), 512);
 	EXPECT_EQ(device_unit(std::numeric_limits<float>::infinity()).as_int32(), 0);

@@ -332,6 +332,7 @@ void check_wide_layer(failures &into) {
 	unsigned char const bytes[] = {0xC3, 0xA9};
 	HOLDS(gh2::get_utf8_length("a", 1) == 1 && gh2::get_utf8_length(bytes, sizeof bytes) == 2);
 	HOLDS(gh2::validate_utf8("a", 1U) && gh2::validate_utf8(bytes, 2) && !gh2::validate_utf8(bytes, 1));
+	HOLDS(gh2::get_utf8_length(nullptr, 5) == 0 && !gh2::validate_utf8(nullptr, 5));
 	HOLDS(&gh2::ucin == &std::wcin && &gh2::ucout == &std::wcout && &gh2::ucerr == &std::wcerr);
 	std::wostringstream stream;
 	stream << ustring16(QUOR_W("ab")) << ustring16(wide_string(QUOR_W("cd"))) << L"ef";
@@ -454,7 +455,8 @@ bool makes_lengths(Number number) {
 
 void check_units(failures &into) {
 	HOLDS(makes_lengths(2) && makes_lengths(2U) && makes_lengths(2L) && makes_lengths(2UL) && makes_lengths(2LL));
-	HOLDS(makes_lengths(2ULL) && makes_lengths(2.0F) && makes_lengths(2.0) && makes_lengths(types::long_t(2)));
+	HOLDS(makes_lengths(2ULL) && makes_lengths(2.0F) && makes_lengths(2.0) && makes_lengths(2.0L));
+	HOLDS(makes_lengths(types::long_t(2)));
 	HOLDS(makes_lengths(types::int32(2)) && makes_lengths(types::uint32(2)) && makes_lengths(types::int64(2)));
 	HOLDS(makes_lengths(types::ulong_t(2)) && makes_lengths(std::size_t(2)) && makes_lengths(std::int64_t(2)));
 	HOLDS(makes_lengths(static_cast<short>(2)) && makes_lengths(static_cast<unsigned char>(2)) && makes_lengths('\2'));

@@ -72,6 +72,8 @@ public:
 	/// A length in md, whatever the unit, without its fraction: 2.9 gives 2 md, -2.9 gives
 	/// -2. NaN and infinities give 0. @since 2.9
 	absolute_unit(double length) noexcept;
+	/// The same of the nearest `double`. @since 2.9
+	absolute_unit(long double length) noexcept : absolute_unit(static_cast<double>(length)) {}
 	/// A length in md: the low 32 bits of any other integer. @since 2.9
 	template <class Integer,
 	          std::enable_if_t<std::is_convertible_v<Integer, int32> && !std::is_same_v<Integer, int32> &&

@@ -45,6 +45,8 @@ public:
 	device_unit(double const &value) noexcept;
 	/// The whole part of a number. @since 2.9
 	device_unit(float const &value) noexcept;
+	/// The whole part of a number. @since 2.9
+	device_unit(long double const &value) noexcept;
 	/// The number. @since 2.9
 	device_unit(signed char const &value) noexcept : m_value(value) {}
 	/// The number. @since 2.9
