@@ -339,6 +339,26 @@ void check_wide_layer(failures &into) {
 	HOLDS(stream.str() == L"abcdef");
 }
 
+// Text of every class in and out of an encoding, from literals too.
+void check_code_pages(failures &into) {
+	using strings::code_page;
+	code_page page = code_page::cp_1252;
+	HOLDS(page.encode("ab") == "ab" && page.encode(std::string("ab")) == "ab" && page.encode(ustring8("ab")) == "ab");
+	HOLDS(page.encode(QUOR_W("a\u20AC")) == "a\x80" && page.encode(wide_string(QUOR_W("ab"))) == "ab");
+	HOLDS(page.encode(QUOR_U32("a\u20AC")) == "a\x80" && page.encode(types::utf32_string(QUOR_U32("ab"))) == "ab");
+	HOLDS(page.as_utf8("\x80") == "\xE2\x82\xAC" && page.as_utf8(ustring8("ab")) == ustring8("ab"));
+	HOLDS(page.as_utf16("\x80") == QUOR_W("\u20AC") && page.as_utf32("\x80") == QUOR_U32("\u20AC"));
+	HOLDS(page.as_ustring("\x80") == QUOR_W("\u20AC"));
+	static_assert(same<decltype(page.as_utf8("")), ustring8> && same<decltype(page.as_utf16("")), ustring16> &&
+	              same<decltype(page.as_utf32("")), ustring32> && same<decltype(page.as_ustring("")), wide_string>);
+	HOLDS(page == code_page::cp_1252 && page.equal(code_page::cp_1252) && page != code_page::utf_8);
+	HOLDS(page == code_page(page) && page != code_page() && !(page == types::nil) && !page.equal(types::nil));
+	page = types::nil;
+	HOLDS(page.type() == 0 && !(page == types::nil) && !(page != types::nil) && page == code_page(types::nil));
+	page.type(code_page::cp_932) = code_page::utf_8;
+	HOLDS(page.type() == 4 && page.to_system_type(page.type()) == 65001);
+}
+
 void check_sums(failures &into) {
 	HOLDS(ustring8("a") + "b" + std::string("c") + 'd' + ustring8("e") == "abcde");
 	HOLDS("a" + ustring8("b") == "ab" && 'a' + ustring8("b") == "ab" && std::string("a") + ustring8("b") == "ab");
@@ -540,6 +560,7 @@ std::vector<std::string> overload_matrix_failures() {
 	check_transcoders(into);
 	check_algorithms(into);
 	check_wide_layer(into);
+	check_code_pages(into);
 	check_sums(into);
 	check_text_to_number(into);
 	check_digits(into);

@@ -203,6 +203,7 @@ int main() {
 	check("size of types::absolute_unit", 8 + sizeof(double), sizeof(quor::types::absolute_unit));
 	check("size of types::device_unit", 2 * sizeof(void *), sizeof(quor::types::device_unit));
 	check("size of types::color_t", 4, sizeof(quor::types::color_t));
+	check("size of strings::code_page", 4, sizeof(quor::strings::code_page));
 	check("size of system::date_time::date", 12, sizeof(quor::system::date_time::date));
 	check("size of system::date_time::time", 16, sizeof(quor::system::date_time::time));
 	check("size of system::date_time::date_time_t", 28, sizeof(quor::system::date_time::date_time_t));
