@@ -62,6 +62,7 @@ public:
 	node_queue queue;
 
 private:
+	[[noreturn]] static void fail(error_type fault) { throw error_type(fault); }
 	bool read_header();
 	bool is_queue_long(std::size_t more_than) const noexcept {
 		return queue.size() > more_than && !queue_size_less_than(2);

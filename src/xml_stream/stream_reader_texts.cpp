@@ -50,21 +50,21 @@ char const *end_of_plain(char const *at, char const *end) noexcept {
 void stream_reader::parse_attribute() {
 	std::string_view const name = parse_name();
 	if (window.at_end()) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (name.empty()) {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	if (*window.read.at != '=') {
-		throw parser::status_expected_equals;
+		fail(parser::status_expected_equals);
 	}
 	++window.read.at;
 	std::string_view const value = parse_attrib_value();
 	if (value.empty() && !m_value_is_empty) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (!is_new_attribute(name)) {
-		throw parser::status_duplicate_attribute;
+		fail(parser::status_duplicate_attribute);
 	}
 	auto &entry = *m_open.back().node;
 	if (!entry.unseen) {
@@ -108,7 +108,7 @@ std::string_view stream_reader::parse_attrib_value() {
 	}
 	char const quote = *read.at;
 	if (quote != '"' && quote != '\'') {
-		throw parser::status_attribute_quote;
+		fail(parser::status_attribute_quote);
 	}
 	++read.at;
 	m_text.clear();
@@ -117,7 +117,7 @@ std::string_view stream_reader::parse_attrib_value() {
 	while ((at = end_of_plain(at, window.end)) != window.end && *at != quote) {
 		if (*at == '<') {
 			read.at = at;
-			throw parser::status_syntax;
+			fail(parser::status_syntax);
 		}
 		if (*at != '&') {
 			++at; // the other quote
@@ -158,10 +158,10 @@ void stream_reader::parse_text() {
 		decode_text(end);
 	}
 	if (window.at_end()) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (m_open.size() <= 1) {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	auto &entry = *m_open.back().node;
 	if (!entry.unseen) {
@@ -180,7 +180,7 @@ void stream_reader::decode_text(char const *end) {
 		if (stop != end) {
 			ustring8 const entity = parse_entity();
 			if (entity.empty()) {
-				throw parser::status_more_input;
+				fail(parser::status_more_input);
 			}
 			m_text.append(entity);
 		}
@@ -193,7 +193,7 @@ ustring8 stream_reader::parse_entity() {
 		return {};
 	}
 	if (rest[0] != '&') {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	if (rest[1] == '#') {
 		return parse_reference();
@@ -208,7 +208,7 @@ ustring8 stream_reader::parse_entity() {
 			return {};
 		}
 	}
-	throw parser::status_syntax;
+	fail(parser::status_syntax);
 }
 
 /// The same for a number, which becomes one byte.
@@ -223,7 +223,7 @@ ustring8 stream_reader::parse_reference() {
 		return {};
 	}
 	if (*at != ';') {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	window.read.at = at + 1;
 	auto const length = static_cast<types::uint32>(at - digits);

@@ -18,7 +18,7 @@ void stream_reader::parse_next() {
 	try {
 		if (m_in_comment) {
 			if (!finish_comment()) {
-				throw parser::status_more_input;
+				fail(parser::status_more_input);
 			}
 			window.commit();
 		}
@@ -46,14 +46,14 @@ bool stream_reader::parse_token() {
 		break;
 	case '<':
 		if (m_in_tag) {
-			throw parser::status_syntax;
+			fail(parser::status_syntax);
 		}
 		return parse_markup();
 	case '>':
 		if (m_in_tag) {
 			m_in_tag = false;
 		} else if (!m_closing_tag_pending) {
-			throw parser::status_syntax;
+			fail(parser::status_syntax);
 		} else {
 			m_closing_tag_pending = false;
 			if (m_finished) {
@@ -78,19 +78,19 @@ bool stream_reader::parse_token() {
 bool stream_reader::parse_markup() {
 	cursor &read = window.read;
 	if (window.remaining() < 2) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (read.at[1] == '/') {
 		parse_closing_tag();
 	} else if (read.at[1] != '!') {
 		return parse_opening_tag();
 	} else if (window.remaining() < 4) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	} else if (read.at[2] == '-' && read.at[3] == '-') {
 		read.at += 4;
 		m_in_comment = true;
 		if (!finish_comment()) {
-			throw parser::status_more_input;
+			fail(parser::status_more_input);
 		}
 	} else {
 		++read.at;
@@ -107,10 +107,10 @@ bool stream_reader::parse_opening_tag() {
 	++window.read.at;
 	std::string_view const name = parse_name();
 	if (window.at_end()) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (name.empty()) {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	bool const available = m_path.size() < m_open_depth && name != "include";
 	if (available && root.empty()) {
@@ -151,10 +151,10 @@ void stream_reader::new_node(std::string_view name, error_type node_status, bool
 bool stream_reader::parse_empty_end() {
 	++window.read.at;
 	if (window.at_end()) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	if (*window.read.at != '>') {
-		throw parser::status_syntax;
+		fail(parser::status_syntax);
 	}
 	++window.read.at;
 	m_in_tag = false;
@@ -166,7 +166,7 @@ bool stream_reader::parse_empty_end() {
 
 void stream_reader::close_tag() {
 	if (m_open.empty()) {
-		throw parser::status_tag_mismatch;
+		fail(parser::status_tag_mismatch);
 	}
 	open_element const &closed = m_open.back();
 	closed.node->value.m_status = parser::status_ok;
@@ -190,14 +190,14 @@ void stream_reader::parse_closing_tag() {
 	window.read.at += 2;
 	std::string_view const name = parse_name();
 	if (name.empty() || window.at_end()) {
-		throw parser::status_more_input;
+		fail(parser::status_more_input);
 	}
 	close_element(name);
 }
 
 void stream_reader::close_element(std::string_view name) {
 	if (m_open.empty() || m_open.back().name != name) {
-		throw parser::status_tag_mismatch;
+		fail(parser::status_tag_mismatch);
 	}
 	if (m_open.back().deep) {
 		close_tag();

@@ -8,12 +8,14 @@
 
 #include <quor/xml_stream/xml_stream_parser.hpp>
 
+#include "support/joined.hpp"
 #include "support/stream_file.hpp"
 
 namespace {
 
 namespace quor = QUOR_2_9;
 using parser = quor::xml_stream::xml_stream_parser;
+using quor_test::joined;
 using quor_test::stream_file;
 using quor_test::stream_header;
 using quor_test::stream_nodes;
@@ -27,13 +29,13 @@ TEST(stream_border, tokens_of_every_kind_are_the_same_across_it) {
 	                         "<!-- a - -- comment\n --->\n<t/><u x='1'/><include></include \n></r\n>";
 	stream_file const file;
 	for (unsigned int depth = 0; depth != 3; ++depth) {
-		parser small = file.open(stream_header + "<r>" + body, depth);
+		parser small = file.open(joined({stream_header, "<r>", body}), depth);
 		nodes const expected = stream_nodes(small);
 		ASSERT_EQ(small.error(), depth == 0 ? parser::status_ok : parser::status_end_of_document);
 		ASSERT_GE(expected.size(), 5U);
 		for (std::size_t at = 0; at <= body.size(); ++at) {
 			std::string const blanks(window - stream_header.size() - 3 - at, ' ');
-			std::string const content = stream_header + "<r>" + blanks + body;
+			std::string const content = joined({stream_header, "<r>", blanks, body});
 			parser large = file.open(content, depth);
 			EXPECT_EQ(stream_nodes(large), expected) << "cut before " << body.substr(at, 10);
 			EXPECT_EQ(large.error(), small.error());
@@ -56,12 +58,12 @@ TEST(stream_border, faults_are_the_same_across_it) {
 	stream_file const file;
 	for (std::string const fault : {"<s a='1' a='2'>", "<s a=1>", "<s a ='1'>", "<s>&bad; </s>", "<s></t>", "text<s>",
 	                                "<s a='<'>", "<s / >", "<!x> <s>", "< s>", "<s>&#1x;   </s>"}) {
-		parser small = file.open(stream_header + "<r>" + fault, 1);
+		parser small = file.open(joined({stream_header, "<r>", fault}), 1);
 		nodes const expected = stream_nodes(small);
 		ASSERT_GE(small.error(), parser::status_tag_mismatch) << fault;
 		for (std::size_t at = 0; at <= fault.size(); ++at) {
 			std::string const blanks(window - stream_header.size() - 3 - at, ' ');
-			parser large = file.open(stream_header + "<r>" + blanks + fault, 1);
+			parser large = file.open(joined({stream_header, "<r>", blanks, fault}), 1);
 			EXPECT_EQ(stream_nodes(large), expected) << fault << at;
 			EXPECT_EQ(large.error(), small.error()) << fault << at;
 			EXPECT_EQ(large.parse_offset(), small.parse_offset() + blanks.size()) << fault << at;
@@ -77,7 +79,8 @@ TEST(stream_border, batches_are_those_of_the_reference) {
 	}
 	for (unsigned int depth = 0; depth != 3; ++depth) {
 		for (std::size_t shift = 0; shift != 4; ++shift) {
-			stream_pair pair(file.directory(), stream_header + std::string(shift * 5, ' ') + body + "</r>", depth);
+			stream_pair pair(file.directory(), joined({stream_header, std::string(shift * 5, ' '), body, "</r>"}),
+			                 depth);
 			for (int calls = 0; calls != 1000 && pair.status() == 0; ++calls) {
 				pair.parse();
 				std::size_t keep = depth == 0 ? 0 : (shift * 7 + static_cast<std::size_t>(calls)) % 3;
@@ -108,7 +111,7 @@ TEST(stream_border, tokens_fit_up_to_the_size_of_the_buffer) {
 	     }) {
 		std::string const value_start = std::string(what) == "value" ? "b='" : "";
 		for (std::size_t size = largest - 1; size <= largest + 2; ++size) {
-			parser from = file.open(stream_header + before + value_start + std::string(size, fill) + behind, 1);
+			parser from = file.open(joined({stream_header, before, value_start, std::string(size, fill), behind}), 1);
 			nodes const got = stream_nodes(from);
 			bool const fits = size <= largest;
 			EXPECT_EQ(from.error(), fits ? parser::status_end_of_document : parser::status_more_input) << what << size;
@@ -124,7 +127,7 @@ TEST(stream_border, tokens_fit_up_to_the_size_of_the_buffer) {
 	// A closing name that needs the byte behind it.
 	for (std::size_t size : {std::size_t(65533), std::size_t(65534)}) {
 		std::string const name(size, 'n');
-		parser from = file.open(stream_header + "<" + name + "></" + name + ">", 1);
+		parser from = file.open(joined({stream_header, "<", name, "></", name, ">"}), 1);
 		stream_nodes(from);
 		EXPECT_EQ(from.error(), size == 65533 ? parser::status_end_of_document : parser::status_more_input) << size;
 	}
@@ -135,7 +138,7 @@ TEST(stream_border, recover_gets_over_what_doesnt_fit) {
 	for (std::string const &damage :
 	     std::vector<std::string>{"<e>" + std::string(200000, 't') + "</e>",
 	                              "<e b='" + std::string(200000, 't') + "'/>", "<e></>", "<e></ e>"}) {
-		parser from = file.open(stream_header + "<r>" + damage + "<e n='2'/></r>", 1);
+		parser from = file.open(joined({stream_header, "<r>", damage, "<e n='2'/></r>"}), 1);
 		stream_nodes(from);
 		ASSERT_EQ(from.error(), parser::status_more_input);
 		ASSERT_EQ(from.recover({"e"}), parser::status_ok);

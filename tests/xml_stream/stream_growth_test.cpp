@@ -8,6 +8,7 @@
 #include <quor/xml_stream/xml_stream_parser.hpp>
 
 #include "support/allocation_counter.hpp"
+#include "support/joined.hpp"
 #include "support/stream_file.hpp"
 
 namespace {
@@ -15,6 +16,7 @@ namespace {
 namespace quor = QUOR_2_9;
 using parser = quor::xml_stream::xml_stream_parser;
 using quor_test::allocation_counter;
+using quor_test::joined;
 using quor_test::stream_file;
 using quor_test::stream_header;
 
@@ -74,8 +76,8 @@ TEST(stream_growth, memory_is_the_same_whatever_the_size) {
 	         {"a name that doesn't fit", "<", "name", "/>", 1},
 	         {"a name that can't be", "<r><s>", "</>", "", 1},
 	     }) {
-		cost const small = cost_of(file, before + repeated(piece, 100000 / piece.size()) + behind, 1);
-		cost const large = cost_of(file, before + repeated(piece, 1600000 / piece.size()) + behind, 1);
+		cost const small = cost_of(file, joined({before, repeated(piece, 100000 / piece.size()), behind}), 1);
+		cost const large = cost_of(file, joined({before, repeated(piece, 1600000 / piece.size()), behind}), 1);
 		EXPECT_EQ(small.status, status) << name;
 		EXPECT_EQ(large.status, status) << name;
 		EXPECT_LE(large.live, small.live + 16) << name;

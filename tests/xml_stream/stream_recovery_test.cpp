@@ -13,7 +13,6 @@ namespace {
 namespace quor = QUOR_2_9;
 using parser = quor::xml_stream::xml_stream_parser;
 using quor::strings::ustring8;
-using quor_test::drain;
 using quor_test::stream_file;
 using quor_test::stream_header;
 using quor_test::stream_nodes;

@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "support/joined.hpp"
 #include "support/random_xml.hpp"
 #include "support/stream_pair.hpp"
 
 namespace {
 
+using quor_test::joined;
 using quor_test::random_xml;
 using quor_test::stream_pair;
 using quor_test::temporary_directory;
@@ -56,9 +58,9 @@ private:
 		std::string result;
 		for (std::size_t i = below(4); i != 0; --i) {
 			std::string const quote = one_of({"\"", "'"});
-			result += one_of({" ", "\n", ""}) + one_of({"a", "b", "key", "_"}) + std::to_string(i) +
-			          one_of({"=", "= ", "=\n"}) + quote + one_of({"", "1", "a b", "&amp;", "x&#65;\n", ">/"}) + quote +
-			          one_of({"", " ", "\n"});
+			result += joined({one_of({" ", "\n", ""}), one_of({"a", "b", "key", "_"}), std::to_string(i),
+			                  one_of({"=", "= ", "=\n"}), quote, one_of({"", "1", "a b", "&amp;", "x&#65;\n", ">/"}),
+			                  quote, one_of({"", " ", "\n"})});
 		}
 		return result;
 	}
