@@ -19,7 +19,6 @@ using quor::generic::abilities::create_dynamic;
 using quor::serialization::labeled_serialize_buffer;
 using quor::serialization::labeled_text_buffer;
 using quor::types::nil;
-using quor::types::variant;
 using quor_test::framed;
 using quor_test::spelled;
 

@@ -49,7 +49,9 @@ TEST(serialize_binary_buf, bits_of_doubles_are_kept) {
 		serialize_binary_buf buffer;
 		buffer.append_double(value, 17);
 		double const found = buffer.read_double();
-		EXPECT_EQ(std::memcmp(&found, &value, sizeof value), 0) << bits;
+		std::uint64_t found_bits = 0;
+		std::memcpy(&found_bits, &found, sizeof found_bits);
+		EXPECT_EQ(found_bits, bits);
 	}
 }
 
