@@ -74,7 +74,7 @@ private:
 
 	void grow(std::size_t count) {
 		std::size_t const written = size();
-		bool const fits_last = m_first == m_short && m_text.size() >= written + count;
+		bool const fits_last = m_text.size() >= written + count;
 		std::size_t const wanted = fits_last ? m_text.size() : 2 * m_capacity + count;
 		if (m_text.capacity() >= written + count) {
 			m_text.resize(std::min(wanted, m_text.capacity()));

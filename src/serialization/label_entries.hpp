@@ -68,9 +68,10 @@ private:
 		}
 		std::uint64_t result = 0;
 		if (size >= 4) {
+			// Where they overlap, they are the same.
 			std::uint64_t const last = load_number<std::uint32_t, std::endian::big>(label.data() + size - 4);
 			result = load_number<std::uint32_t, std::endian::big>(label.data());
-			return result << 32 | (last << 8 * (8 - size) & 0xFFFFFFFF);
+			return result << 32 | last << 8 * (8 - size);
 		}
 		for (std::size_t i = 0; i != size; ++i) {
 			result |= std::uint64_t(static_cast<unsigned char>(label[i])) << (56 - 8 * i);

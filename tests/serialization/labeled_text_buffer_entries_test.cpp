@@ -85,6 +85,18 @@ TEST(labeled_entries, labels_that_differ_in_zero_bytes_are_others) {
 	EXPECT_FALSE(record.has_label(""));
 }
 
+// The longest length that fits, and the shortest that doesn't, stand at the very begin.
+TEST(labeled_entries, texts_that_grow_by_one_byte_are_exact) {
+	for (std::size_t const label_size : {9U, 10U, 11U, 99U, 100U, 101U}) {
+		std::string const label(label_size, 'a');
+		labeled_text_buffer reused;
+		for (std::size_t size = 900; size != 1400; ++size) {
+			reused.add_value(label, std::string(size, 'x'));
+			ASSERT_EQ(reused.as_str(), framed_string(label) + framed_string(std::string(size, 'x')));
+		}
+	}
+}
+
 // The length of a string has one to four digits, and the text fits what is at hand or doesn't.
 TEST(labeled_entries, texts_of_every_size_are_exact) {
 	labeled_text_buffer reused;

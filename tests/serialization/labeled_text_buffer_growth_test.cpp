@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <quor/serialization/labeled_text_buffer.hpp>
+#include <quor/strings/ustring.hpp>
 
 #include "support/allocation_counter.hpp"
 #include "support/labeled_records.hpp"
@@ -193,6 +194,20 @@ TEST(labeled_text_growth, asking_allocates_nothing) {
 	// Short texts in the memory of the last one need only the list of open groups.
 	EXPECT_EQ(record.as_str().size(), 24U);
 	EXPECT_EQ(counter.count(), 1U);
+}
+
+// Texts of values are put where they belong at once.
+TEST(labeled_text_growth, narrow_texts_are_written_without_a_copy) {
+	std::string const text(100, 'x');
+	for (quor::types::variant const &value :
+	     {quor::types::variant(text), quor::types::variant(quor::strings::ustring8(text))}) {
+		labeled_text_buffer record;
+		record.add_value("a", value);
+		record.as_str();
+		quor_test::allocation_counter const counter;
+		EXPECT_EQ(record.as_str().size(), 109U);
+		EXPECT_EQ(counter.count(), 1U);
+	}
 }
 
 // Memory of a large text that was written before is not gone through again each time. It would

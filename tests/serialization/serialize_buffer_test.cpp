@@ -231,9 +231,11 @@ TYPED_TEST(any_buffer, operators_of_the_interface_forward_to_assign) {
 TYPED_TEST(any_buffer, constructor_from_the_interface_reads_from_the_start_and_the_copy_goes_on) {
 	TypeParam source(this->seven() + this->seven());
 	source.read_uint8();
-	TypeParam const copy(source);
+	TypeParam copy(source);
 	copy.read_uint8();
 	EXPECT_TRUE(copy.at_end());
+	copy.append_uint8(7);
+	EXPECT_FALSE(copy.at_end());
 	TypeParam const from_base(static_cast<buffer const &>(source));
 	from_base.read_uint8();
 	EXPECT_FALSE(from_base.at_end());

@@ -51,11 +51,11 @@ int position_of(serialize_text_buf const &buffer) {
 
 constexpr int nowhere = -1;
 
-// A content, the type to read from it, what that gives, and where the position is then.
+// A content, what reading it as a type gives, and where the position is then.
 struct read_row {
 	char const *content;
-	field_type type;
 	char const *expected;
+	field_type type;
 	int position;
 };
 
@@ -75,99 +75,99 @@ void check(read_row const (&rows)[Count]) {
 }
 
 TEST(serialize_text_buf, integers_are_fields_with_a_radix_of_their_own) {
-	read_row const rows[] = {{"", field_type::int32, "0", nowhere},
-	                         {"^", field_type::int32, "0", 1},
-	                         {"^^", field_type::uint8, "0", 1},
-	                         {"123", field_type::int32, "123", nowhere},
-	                         {"123^", field_type::int32, "123", 4},
-	                         {"123^4^", field_type::int32, "123", 4},
-	                         {"0^", field_type::int32, "0", 2},
-	                         {"-0^", field_type::int32, "0", 3},
-	                         {"+7^", field_type::int32, "7", 3},
-	                         {"\\20\\09\\0a\\0b\\0c\\0d8^", field_type::int32, "8", 8},
-	                         {"0x10^", field_type::int32, "16", 5},
-	                         {"-0x10^", field_type::int32, "-16", 6},
-	                         {"0b101^", field_type::int32, "5", 6},
-	                         {"010^", field_type::int32, "8", 4},
-	                         {"00^", field_type::int32, "0", 3},
-	                         {"08^", field_type::int32, "0", 3},
-	                         {"\\5cx1f^", field_type::int32, "31", 5},
-	                         {"12ab^", field_type::int32, "12", 5},
-	                         {"abc^", field_type::int32, "0", 4},
-	                         {"1\\002^", field_type::int32, "1", 4},
-	                         {"\\ff1^", field_type::int32, "0", 3},
-	                         {"\\a01^", field_type::int32, "0", 3},
-	                         {"-^", field_type::int32, "0", 2},
-	                         {"- 1^", field_type::int32, "0", 4},
-	                         {"--1^", field_type::int32, "0", 4},
-	                         {"999999999^", field_type::int32, "999999999", 10},
-	                         {"1000000000^", field_type::int32, "1000000000", 11},
-	                         {"-999999999^", field_type::int32, "-999999999", 11},
-	                         {"2147483647^", field_type::int32, "2147483647", 11},
-	                         {"2147483648^", field_type::int32, "2147483647", 11},
-	                         {"-2147483648^", field_type::int32, "-2147483648", 12},
-	                         {"-2147483649^", field_type::int32, "-2147483648", 12},
-	                         {"99999999999999999999^", field_type::int32, "2147483647", 21},
-	                         {"-99999999999999999999^", field_type::int32, "-2147483648", 22}};
+	read_row const rows[] = {{"", "0", field_type::int32, nowhere},
+	                         {"^", "0", field_type::int32, 1},
+	                         {"^^", "0", field_type::uint8, 1},
+	                         {"123", "123", field_type::int32, nowhere},
+	                         {"123^", "123", field_type::int32, 4},
+	                         {"123^4^", "123", field_type::int32, 4},
+	                         {"0^", "0", field_type::int32, 2},
+	                         {"-0^", "0", field_type::int32, 3},
+	                         {"+7^", "7", field_type::int32, 3},
+	                         {"\\20\\09\\0a\\0b\\0c\\0d8^", "8", field_type::int32, 8},
+	                         {"0x10^", "16", field_type::int32, 5},
+	                         {"-0x10^", "-16", field_type::int32, 6},
+	                         {"0b101^", "5", field_type::int32, 6},
+	                         {"010^", "8", field_type::int32, 4},
+	                         {"00^", "0", field_type::int32, 3},
+	                         {"08^", "0", field_type::int32, 3},
+	                         {"\\5cx1f^", "31", field_type::int32, 5},
+	                         {"12ab^", "12", field_type::int32, 5},
+	                         {"abc^", "0", field_type::int32, 4},
+	                         {"1\\002^", "1", field_type::int32, 4},
+	                         {"\\ff1^", "0", field_type::int32, 3},
+	                         {"\\a01^", "0", field_type::int32, 3},
+	                         {"-^", "0", field_type::int32, 2},
+	                         {"- 1^", "0", field_type::int32, 4},
+	                         {"--1^", "0", field_type::int32, 4},
+	                         {"999999999^", "999999999", field_type::int32, 10},
+	                         {"1000000000^", "1000000000", field_type::int32, 11},
+	                         {"-999999999^", "-999999999", field_type::int32, 11},
+	                         {"2147483647^", "2147483647", field_type::int32, 11},
+	                         {"2147483648^", "2147483647", field_type::int32, 11},
+	                         {"-2147483648^", "-2147483648", field_type::int32, 12},
+	                         {"-2147483649^", "-2147483648", field_type::int32, 12},
+	                         {"99999999999999999999^", "2147483647", field_type::int32, 21},
+	                         {"-99999999999999999999^", "-2147483648", field_type::int32, 22}};
 	check(rows);
 }
 
 TEST(serialize_text_buf, integers_are_clipped_at_the_limits_of_their_type) {
-	read_row const rows[] = {{"127^", field_type::int8, "127", 4},
-	                         {"128^", field_type::int8, "127", 4},
-	                         {"99999999999^", field_type::int8, "127", 12},
-	                         {"255^", field_type::uint8, "255", 4},
-	                         {"256^", field_type::uint8, "255", 4},
-	                         {"-1^", field_type::uint8, "0", 3},
-	                         {"-9999999999^", field_type::uint8, "0", 12},
-	                         {"32767^", field_type::int16, "32767", 6},
-	                         {"32768^", field_type::int16, "32767", 6},
-	                         {"65535^", field_type::uint16, "65535", 6},
-	                         {"65536^", field_type::uint16, "65535", 6},
-	                         {"-1^", field_type::uint16, "0", 3},
-	                         {"4294967295^", field_type::uint32, "4294967295", 11},
-	                         {"4294967296^", field_type::uint32, "4294967295", 11},
-	                         {"-1^", field_type::uint32, "0", 3},
-	                         {"-4294967296^", field_type::uint32, "0", 12},
-	                         {"9223372036854775807^", field_type::int64, "9223372036854775807", 20},
-	                         {"9223372036854775808^", field_type::int64, "9223372036854775807", 20},
-	                         {"-9223372036854775808^", field_type::int64, "-9223372036854775808", 21},
-	                         {"-9223372036854775809^", field_type::int64, "-9223372036854775808", 21},
-	                         {"18446744073709551615^", field_type::uint64, "18446744073709551615", 21},
-	                         {"18446744073709551616^", field_type::uint64, "18446744073709551615", 21},
-	                         {"-1^", field_type::uint64, "0", 3}};
+	read_row const rows[] = {{"127^", "127", field_type::int8, 4},
+	                         {"128^", "127", field_type::int8, 4},
+	                         {"99999999999^", "127", field_type::int8, 12},
+	                         {"255^", "255", field_type::uint8, 4},
+	                         {"256^", "255", field_type::uint8, 4},
+	                         {"-1^", "0", field_type::uint8, 3},
+	                         {"-9999999999^", "0", field_type::uint8, 12},
+	                         {"32767^", "32767", field_type::int16, 6},
+	                         {"32768^", "32767", field_type::int16, 6},
+	                         {"65535^", "65535", field_type::uint16, 6},
+	                         {"65536^", "65535", field_type::uint16, 6},
+	                         {"-1^", "0", field_type::uint16, 3},
+	                         {"4294967295^", "4294967295", field_type::uint32, 11},
+	                         {"4294967296^", "4294967295", field_type::uint32, 11},
+	                         {"-1^", "0", field_type::uint32, 3},
+	                         {"-4294967296^", "0", field_type::uint32, 12},
+	                         {"9223372036854775807^", "9223372036854775807", field_type::int64, 20},
+	                         {"9223372036854775808^", "9223372036854775807", field_type::int64, 20},
+	                         {"-9223372036854775808^", "-9223372036854775808", field_type::int64, 21},
+	                         {"-9223372036854775809^", "-9223372036854775808", field_type::int64, 21},
+	                         {"18446744073709551615^", "18446744073709551615", field_type::uint64, 21},
+	                         {"18446744073709551616^", "18446744073709551615", field_type::uint64, 21},
+	                         {"-1^", "0", field_type::uint64, 3}};
 	check(rows);
 }
 
 TEST(serialize_text_buf, narrow_negative_numbers_are_themselves_or_the_smallest) {
-	read_row const rows[] = {{"-0^", field_type::int8, "0", 3},
-	                         {"-1^", field_type::int8, "-1", 3},
-	                         {"-127^", field_type::int8, "-127", 5},
-	                         {"-128^", field_type::int8, "-128", 5},
-	                         {"-129^", field_type::int8, "-128", 5},
-	                         {"-128", field_type::int8, "-128", nowhere},
-	                         {"-2147483649^", field_type::int8, "-128", 12},
-	                         {"-21474836480^", field_type::int8, "-128", 13},
-	                         {"-92233720368547758080^", field_type::int8, "-128", 22},
-	                         {" -5^", field_type::int8, "-5", 4},
-	                         {"-0x10^", field_type::int8, "-16", 6},
-	                         {"-0x80^", field_type::int8, "-128", 6},
-	                         {"-0x81^", field_type::int8, "-128", 6},
-	                         {"-010^", field_type::int8, "-8", 5},
-	                         {"-\\5cx10^", field_type::int8, "-16", 6},
-	                         {"-5x^", field_type::int8, "-5", 4},
-	                         {"-^", field_type::int8, "0", 2},
-	                         {"-x^", field_type::int8, "0", 3},
-	                         {"- 5^", field_type::int8, "0", 4},
-	                         {"--5^", field_type::int8, "0", 4},
-	                         {"-+5^", field_type::int8, "0", 4},
-	                         {"-O^", field_type::int8, "0", 3},
-	                         {"-32767^", field_type::int16, "-32767", 7},
-	                         {"-32768^", field_type::int16, "-32768", 7},
-	                         {"-32769^", field_type::int16, "-32768", 7},
-	                         {"-0x8000^", field_type::int16, "-32768", 8},
-	                         {" -0b11^", field_type::int16, "-3", 7},
-	                         {"-99999999999999999999^", field_type::int16, "-32768", 22}};
+	read_row const rows[] = {{"-0^", "0", field_type::int8, 3},
+	                         {"-1^", "-1", field_type::int8, 3},
+	                         {"-127^", "-127", field_type::int8, 5},
+	                         {"-128^", "-128", field_type::int8, 5},
+	                         {"-129^", "-128", field_type::int8, 5},
+	                         {"-128", "-128", field_type::int8, nowhere},
+	                         {"-2147483649^", "-128", field_type::int8, 12},
+	                         {"-21474836480^", "-128", field_type::int8, 13},
+	                         {"-92233720368547758080^", "-128", field_type::int8, 22},
+	                         {" -5^", "-5", field_type::int8, 4},
+	                         {"-0x10^", "-16", field_type::int8, 6},
+	                         {"-0x80^", "-128", field_type::int8, 6},
+	                         {"-0x81^", "-128", field_type::int8, 6},
+	                         {"-010^", "-8", field_type::int8, 5},
+	                         {"-\\5cx10^", "-16", field_type::int8, 6},
+	                         {"-5x^", "-5", field_type::int8, 4},
+	                         {"-^", "0", field_type::int8, 2},
+	                         {"-x^", "0", field_type::int8, 3},
+	                         {"- 5^", "0", field_type::int8, 4},
+	                         {"--5^", "0", field_type::int8, 4},
+	                         {"-+5^", "0", field_type::int8, 4},
+	                         {"-O^", "0", field_type::int8, 3},
+	                         {"-32767^", "-32767", field_type::int16, 7},
+	                         {"-32768^", "-32768", field_type::int16, 7},
+	                         {"-32769^", "-32768", field_type::int16, 7},
+	                         {"-0x8000^", "-32768", field_type::int16, 8},
+	                         {" -0b11^", "-3", field_type::int16, 7},
+	                         {"-99999999999999999999^", "-32768", field_type::int16, 22}};
 	check(rows);
 }
 
@@ -176,13 +176,13 @@ TEST(serialize_text_buf, smallest_64_bit_number_has_a_text_of_its_own) {
 	buffer.append_int64(std::numeric_limits<long long>::min());
 	EXPECT_EQ(buffer.as_str(), unescaped("-O^"));
 	EXPECT_EQ(buffer.read_int64(), std::numeric_limits<long long>::min());
-	read_row const rows[] = {{"-O", field_type::int64, "-9223372036854775808", nowhere},
-	                         {"-O ^", field_type::int64, "0", 4},
-	                         {" -O^", field_type::int64, "0", 4},
-	                         {"-o^", field_type::int64, "0", 3},
-	                         {"O^", field_type::int64, "0", 2},
-	                         {"-O^", field_type::int32, "0", 3},
-	                         {"-O^", field_type::uint64, "0", 3}};
+	read_row const rows[] = {{"-O", "-9223372036854775808", field_type::int64, nowhere},
+	                         {"-O ^", "0", field_type::int64, 4},
+	                         {" -O^", "0", field_type::int64, 4},
+	                         {"-o^", "0", field_type::int64, 3},
+	                         {"O^", "0", field_type::int64, 2},
+	                         {"-O^", "0", field_type::int32, 3},
+	                         {"-O^", "0", field_type::uint64, 3}};
 	check(rows);
 }
 
@@ -253,30 +253,30 @@ TEST(serialize_text_buf, any_precision_is_taken) {
 }
 
 TEST(serialize_text_buf, strings_are_framed_by_their_length) {
-	read_row const rows[] = {{"0^^", field_type::string, "", 3},
-	                         {"2^ab^", field_type::string, "ab", 5},
-	                         {"3^a^b^7^", field_type::string, "a^b", 6},
-	                         {"2^ab", field_type::string, "ab", 5},
-	                         {"2^a", field_type::string, "a", 5},
-	                         {"2^", field_type::string, "", 5},
-	                         {"9^ab^", field_type::string, "ab^", 12},
-	                         {"0x2^ab^", field_type::string, "ab", 7},
-	                         {"x^ab^", field_type::string, "", 3},
-	                         {"^ab^", field_type::string, "", 2},
-	                         {"2147483647^ab", field_type::string, "ab", nowhere},
-	                         {"4294967295^ab", field_type::string, "ab", nowhere},
-	                         {"99999999999^ab", field_type::string, "ab", nowhere}};
+	read_row const rows[] = {{"0^^", "", field_type::string, 3},
+	                         {"2^ab^", "ab", field_type::string, 5},
+	                         {"3^a^b^7^", "a^b", field_type::string, 6},
+	                         {"2^ab", "ab", field_type::string, 5},
+	                         {"2^a", "a", field_type::string, 5},
+	                         {"2^", "", field_type::string, 5},
+	                         {"9^ab^", "ab^", field_type::string, 12},
+	                         {"0x2^ab^", "ab", field_type::string, 7},
+	                         {"x^ab^", "", field_type::string, 3},
+	                         {"^ab^", "", field_type::string, 2},
+	                         {"2147483647^ab", "ab", field_type::string, nowhere},
+	                         {"4294967295^ab", "ab", field_type::string, nowhere},
+	                         {"99999999999^ab", "ab", field_type::string, nowhere}};
 	check(rows);
 }
 
 TEST(serialize_text_buf, negative_length_gives_the_rest_and_goes_back) {
-	read_row const rows[] = {{"-1^ab", field_type::string, "ab", 3},
-	                         {"-1^", field_type::string, "", 3},
-	                         {"-2^ab", field_type::string, "ab", 2},
-	                         {"-4^ab", field_type::string, "ab", 0},
-	                         {"-5^ab", field_type::string, "ab", nowhere},
-	                         {"-100^ab^cd", field_type::string, "ab^cd", nowhere},
-	                         {"-2147483648^ab", field_type::string, "ab", nowhere}};
+	read_row const rows[] = {{"-1^ab", "ab", field_type::string, 3},
+	                         {"-1^", "", field_type::string, 3},
+	                         {"-2^ab", "ab", field_type::string, 2},
+	                         {"-4^ab", "ab", field_type::string, 0},
+	                         {"-5^ab", "ab", field_type::string, nowhere},
+	                         {"-100^ab^cd", "ab^cd", field_type::string, nowhere},
+	                         {"-2147483648^ab", "ab", field_type::string, nowhere}};
 	check(rows);
 	serialize_text_buf const buffer(unescaped("-1^7^"));
 	EXPECT_EQ(buffer.read_string(), unescaped("7^"));
@@ -292,7 +292,7 @@ TEST(serialize_text_buf, negative_length_gives_the_rest_and_goes_back) {
 TEST(serialize_text_buf, length_without_separator_leaves_nothing_to_read) {
 	for (char const *const content : {"", "2", "0", "-1", "-2", "4294967295", "ab", "-"}) {
 		SCOPED_TRACE(content);
-		read_row const row{content, field_type::string, "", nowhere};
+		read_row const row{content, "", field_type::string, nowhere};
 		check(row);
 		serialize_text_buf buffer(content);
 		EXPECT_EQ(buffer.read_string(), "");

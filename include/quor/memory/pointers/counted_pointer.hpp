@@ -161,6 +161,7 @@ private:
 
 	/// Not inlined, so that compilers don't suspect a deletion of objects that they see on
 	/// the stack; the flag prevents it.
+	// NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): it can't follow the flag
 	[[gnu::noinline]] static void destroy(T *object) noexcept { delete object; }
 
 	T *m_object = nullptr;
