@@ -139,7 +139,7 @@ stream_reader::error_type const &stream_reader::recover(std::list<ustring8> cons
 	bool more = true;
 	while (more && !find_tag(tags)) {
 		window.commit();
-		more = load() != 0;
+		more = (window.is_behind() && window.catch_up() == outcome::more) || load() != 0;
 	}
 	window.commit();
 	m_positioned = more;

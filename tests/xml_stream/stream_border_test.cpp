@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -89,6 +90,34 @@ TEST(stream_border, batches_are_those_of_the_reference) {
 				ASSERT_EQ(pair.difference(), "");
 			}
 			EXPECT_EQ(pair.status(), depth == 0 ? 0 : 3);
+		}
+	}
+}
+
+// A queue that is nearly full and records that are nearly as large as the buffer: what stops
+// a call is now the queue, now the buffer's end.
+TEST(stream_border, calls_stop_where_the_reference_stops) {
+	stream_file const file;
+	std::string body = "<r>";
+	for (int i = 0; i != 105; ++i) {
+		body += "<e/>";
+	}
+	for (int i = 0; i != 160; ++i) {
+		body.append("<!--").append(static_cast<std::size_t>(i * 7919 % 40000), 'c');
+		body.append("--><e n='").append(std::to_string(i)).append("'>text</e>");
+	}
+	for (unsigned int seed = 0; seed != 16; ++seed) {
+		std::mt19937 random(seed);
+		stream_pair pair(file.directory(), joined({stream_header, body, "</r>"}), 1);
+		for (int calls = 0; calls != 400 && pair.status() == 0; ++calls) {
+			pair.parse();
+			for (std::size_t i = 1 + random() % 3; i != 0 && pair.pop(); --i) {
+			}
+			if (random() % 40 == 0) {
+				// Begins where the last call stopped, if only in the midst of a tag.
+				pair.recover({"e"});
+			}
+			ASSERT_EQ(pair.difference(), "") << seed;
 		}
 	}
 }

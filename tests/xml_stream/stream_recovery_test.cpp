@@ -83,6 +83,14 @@ TEST(stream_recovery, recover_forgets_what_is_half_read) {
 	}
 }
 
+TEST(stream_recovery, recover_forgets_a_closing_tag_that_isnt_finished) {
+	stream_file const file;
+	parser from = file.open(stream_header + "<r><a></a </b><e/>></r>", 1);
+	EXPECT_EQ(from.parse(), parser::status_tag_mismatch);
+	EXPECT_EQ(from.recover({"e"}), parser::status_ok);
+	EXPECT_EQ(from.parse(), parser::status_syntax) << "the second \">\" belongs to nothing";
+}
+
 TEST(stream_recovery, recover_compares_whole_names_of_opening_tags) {
 	stream_file const file;
 	std::string const tail = "<ee/></e><!e><e1/><?e?>< e/><!--<e x='in a comment'/></r>";

@@ -253,6 +253,9 @@ TEST(xml_stream_parser, a_file_that_ends_early_has_status_1) {
 	        {"<r></r> x", 0, {"r 1<0 0 @1"}, 1},
 	        {"<r></>", 1, {"r 1<0 1 @1"}, 1},
 	        {"<r></ r>", 1, {"r 1<0 1 @1"}, 1},
+	        {"<r><s>&xy<", 1, {"r 1<0 1 @1"}, 1},
+	        {"<r><s>&xyz<", 1, {"r 1<0 1 @1"}, 6},
+	        {"<r s='&xy<", 1, {"r 1<0 1 @1"}, 1},
 	        {"<r><s>&lt;", 1, {"r 1<0 1 @1"}, 1},
 	        {"<r>text", 1, {"r 1<0 1 @1"}, 1},
 	        {"", 1, {}, 0},
@@ -263,8 +266,8 @@ TEST(xml_stream_parser, a_file_that_ends_early_has_status_1) {
 
 TEST(xml_stream_parser, a_finished_document_stays_finished) {
 	stream_file const file;
-	for (std::string const body :
-	     {"<r></r>", "<r></r", "<r></r \n", "<r></r x", "<r></r x<y>", "<r/>", "<r></r <", "<r/>junk"}) {
+	for (std::string const body : {"<r></r>", "<r></r", "<r></r \n", "<r></r x", "<r></r x<y>", "<r></r <x></x> ",
+	                               "<r></r <x></x <y/", "<r/>", "<r></r <", "<r/>junk"}) {
 		parser from = file.open(stream_header + body, 1);
 		for (int i = 0; i != 3; ++i) {
 			EXPECT_EQ(from.parse(), parser::status_end_of_document) << body;
