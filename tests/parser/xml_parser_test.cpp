@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include <quor/functor/member_function.hpp>
 #include <quor/parser/xml_parser.hpp>
 
 #include "support/event_log.hpp"
@@ -109,6 +114,37 @@ TEST(xml_parser, do_parse_advances_to_the_end_or_the_fault) {
 		EXPECT_EQ(parser.do_parse(begin, expected.text.end()).code(), expected.code);
 		EXPECT_EQ(std::string(begin, expected.text.end()), expected.rest);
 	}
+}
+
+/// Writes down what stands between the beginning of the text and each event.
+struct position_log {
+	explicit position_log(std::string const &text) : first(text.begin()), position(text.begin()) {
+		using member = quor::functor::member_function_t<position_log, void(ustring8 const &)>;
+		using attribute_member =
+		    quor::functor::member_function_t<position_log, void(ustring8 const &, ustring8 const &)>;
+		for (auto *const delegate : {&parser.on_element_start(), &parser.on_element_end(), &parser.on_character(),
+		                             &parser.on_space(), &parser.on_comment()}) {
+			*delegate = member(this, &position_log::note);
+		}
+		parser.on_attribute() = attribute_member(this, &position_log::note_pair);
+	}
+	void note(ustring8 const & /*text*/) { offsets.push_back(position - first); }
+	void note_pair(ustring8 const & /*name*/, ustring8 const & /*value*/) { offsets.push_back(position - first); }
+
+	std::string::const_iterator first;
+	std::string::const_iterator position;
+	std::vector<std::ptrdiff_t> offsets;
+	xml_parser parser;
+};
+
+TEST(xml_parser, do_parse_begin_tells_delegates_where_each_event_ends) {
+	//                         0         1         2         3         4
+	//                         0123456789012345678901234567890123456789012345678
+	std::string const text = "<?xml?><ab c = 'd'  e=\"f\">g h  <!--i--><jk/> </ab >";
+	position_log log(text);
+	EXPECT_EQ(log.parser.do_parse(log.position, text.end()).code(), 0);
+	EXPECT_EQ(log.offsets, (std::vector<std::ptrdiff_t>{9, 17, 24, 29, 31, 38, 41, 43, 45, 48}));
+	EXPECT_EQ(log.position, text.end());
 }
 
 // An inner routine on a text of its own: what it gives, and how far it went.

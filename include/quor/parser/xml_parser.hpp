@@ -191,7 +191,9 @@ public:
 	parse_error parse(const_iterator begin, const_iterator end) const;
 
 	/// The loop behind `parse`. `begin` moves on as the input is consumed and stands
-	/// where the parse ended, or at the fault.
+	/// where the parse ended, or at the fault. A delegate that can reach `begin` learns from
+	/// it where it is: at a name's last character, an attribute's closing quote, the ">" of
+	/// "/>" and of a comment, and behind a run of text or white space.
 	/// @since 2.9
 	parse_error do_parse(const_iterator &begin, const_iterator const &end) const;
 
