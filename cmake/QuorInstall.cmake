@@ -1,4 +1,5 @@
-# Install rules: the library, its headers, the CMake package and the pkg-config file.
+# Install rules: the library, its headers, the CMake package, the pkg-config file, and what editors
+# and desktops need to know catalogs.
 # The build tree is a package too: find_package finds it in <build>/package.
 
 include(CMakePackageConfigHelpers)
@@ -56,3 +57,6 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/quor.pc.in" "${quor_build_package_di
 install(FILES "${quor_build_package_dir}/${quor_module}.pc" DESTINATION "${quor_pkgconfig_dir}")
 
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/share/xml" "${PROJECT_SOURCE_DIR}/share/editors"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/quor")
+install(FILES "${PROJECT_SOURCE_DIR}/share/mime/quor-xmc.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")

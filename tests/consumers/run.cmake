@@ -4,6 +4,7 @@
 #
 # MODE is
 #   install           installs BUILD into PREFIX
+#   package           makes the packages of BUILD and unpacks them below WORK
 #   cmake             configures and builds SOURCE into WORK with OPTIONS, runs it
 #   pkg_config        compiles PROGRAM against the module in PREFIX, runs it
 # With NO_RUN the programs are built only: they are for another system.
@@ -33,6 +34,21 @@ endfunction()
 if(MODE STREQUAL "install")
   file(REMOVE_RECURSE "${PREFIX}")
   run("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}")
+elseif(MODE STREQUAL "package")
+  file(REMOVE_RECURSE "${WORK}")
+  run("${CPACK}" --config "${BUILD}/CPackConfig.cmake" -B "${WORK}/made")
+  file(GLOB archive "${WORK}/made/quor-*.tar.gz")
+  file(GLOB debian "${WORK}/made/quor_*.deb")
+  file(MAKE_DIRECTORY "${WORK}/archive" "${WORK}/debian")
+  run(tar -xzf "${archive}" -C "${WORK}/archive" --strip-components=1)
+  run(dpkg-deb --extract "${debian}" "${WORK}/debian")
+  foreach(file share/quor/xml/xmc.xsd share/quor/editors/vscode-settings.json share/mime/packages/quor-xmc.xml)
+    foreach(root archive debian/usr)
+      if(NOT EXISTS "${WORK}/${root}/${file}")
+        message(FATAL_ERROR "${WORK}/${root} has no ${file}")
+      endif()
+    endforeach()
+  endforeach()
 elseif(MODE STREQUAL "cmake")
   file(REMOVE_RECURSE "${WORK}")
   separate_arguments(OPTIONS UNIX_COMMAND "${OPTIONS}")

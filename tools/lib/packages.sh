@@ -10,6 +10,8 @@
 # What the stages of tools/test and the other tools need.
 # locales: a test makes locales with other encodings than UTF-8.
 quor_build_packages=(cmake ninja-build g++ pkg-config libgtest-dev python3 binutils locales)
+# Packages are made, and what is installed for editors and desktops is tried.
+quor_share_packages=(dpkg-dev libxml2-utils shared-mime-info)
 quor_clang_packages=(clang libclang-rt-dev llvm)
 quor_windows_packages=(g++-mingw-w64-x86-64-posix)
 quor_format_packages=(clang-format-14 python3)
