@@ -12,6 +12,9 @@
 quor_build_packages=(cmake ninja-build g++ pkg-config libgtest-dev python3 binutils locales)
 # Packages are made, and what is installed for editors and desktops is tried.
 quor_share_packages=(dpkg-dev libxml2-utils shared-mime-info)
+# The command's argument parser and JSON, and the browser in which a test opens its page.
+quor_cli_packages=(libcli11-dev nlohmann-json3-dev)
+quor_browser_packages=(chromium)
 quor_clang_packages=(clang libclang-rt-dev llvm)
 quor_windows_packages=(g++-mingw-w64-x86-64-posix)
 quor_format_packages=(clang-format-14 python3)

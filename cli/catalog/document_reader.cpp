@@ -1,0 +1,383 @@
+#include "catalog/document_reader.hpp"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "catalog/fault_words.hpp"
+
+namespace quor_cli {
+
+using quor::strings::ustring8;
+
+namespace {
+
+using token = token_segment::token;
+
+bool is_argument(token const &each) {
+	return each.value() == "arg" || each.value() == "argument";
+}
+
+// The languages that the catalogs of a file name.
+std::set<std::string> languages_of(std::list<token_segment> const &segments) {
+	std::set<std::string> languages;
+	for (token_segment const &segment : segments) {
+		bool in_catalog_tag = false;
+		for (auto it = segment.tokens.begin(); it != segment.tokens.end(); ++it) {
+			if (it->type() == token::token_element_start) {
+				in_catalog_tag = it->value() == "catalog";
+			} else if (in_catalog_tag && it->type() == token::token_attribute_name && it->value() == "lang") {
+				languages.insert(std::next(it)->value());
+			}
+		}
+	}
+	return languages;
+}
+
+} // namespace
+
+document_reader::document_reader(std::string const &file, line_table const &lines,
+                                 std::list<token_segment> const &segments)
+    : m_lines(lines) {
+	m_document.file = file;
+	for (std::string const &language : languages_of(segments)) {
+		// An id that begins with a separator accepts catalogs without a language.
+		if (!language.empty()) {
+			m_languages.insert(language);
+		}
+	}
+}
+
+void document_reader::read(token_segment &segment, bool first) {
+	if (m_done) {
+		return;
+	}
+	m_segment = &segment;
+	m_it = segment.tokens.begin();
+	m_step = m_it;
+	m_step_index = 0;
+	m_in_catalog = segment.in_catalog;
+	bool at_root = first && !at_end();
+	while (!m_done && (at_root || !at_end())) {
+		m_step_index += static_cast<std::size_t>(std::distance(m_step, m_it));
+		m_step = m_it;
+		m_in_message = false;
+		try {
+			at_root ? read_root() : step();
+		} catch (load_error const &error) {
+			add_fault(error);
+			m_done = error.type() == load_not_xmc;
+			m_in_root_tag = false;
+			resynchronise();
+		}
+		at_root = false;
+	}
+	if (m_in_catalog && !m_done && !segment.fault) {
+		add_fault(load_error(load_unexpected, ustring8()));
+	}
+}
+
+void document_reader::read_root() {
+	m_in_root_tag = true;
+	parse_ignorable(m_it, m_segment->tokens.end());
+	parse_xmc_header(m_it, m_segment->tokens.end());
+	m_in_root_tag = false;
+}
+
+void document_reader::step() {
+	parse_ignorable(m_it, m_segment->tokens.end());
+	if (at_end() || skip_end_of_refused()) {
+		return;
+	}
+	if (m_in_catalog) {
+		step_in_catalog();
+	} else {
+		step_in_root();
+	}
+}
+
+// Steps over the end of an element whose start was refused.
+bool document_reader::skip_end_of_refused() {
+	auto const refused = is(token::token_element_end) ? m_refused.find(m_it->value()) : m_refused.end();
+	if (refused == m_refused.end()) {
+		return false;
+	}
+	m_refused.erase(refused);
+	++m_it;
+	return true;
+}
+
+void document_reader::step_in_root() {
+	if (is(token::token_element_end, "xmc")) {
+		m_done = true;
+	} else if (is(token::token_element_start, "catalog")) {
+		m_found = true;
+		open_catalog();
+	} else if (is(token::token_element_start, "include")) {
+		m_found = true;
+		include();
+	} else {
+		throw load_error(load_invalid_element, m_it->value());
+	}
+}
+
+void document_reader::step_in_catalog() {
+	if (is(token::token_element_start, "msg")) {
+		message();
+	} else if (is(token::token_element_end, "catalog")) {
+		m_in_catalog = false;
+		++m_it;
+	} else {
+		throw load_error(load_no_catalog_end,
+		                 m_document.catalogs.empty() ? ustring8() : ustring8(m_document.catalogs.back().name));
+	}
+}
+
+bool document_reader::next_attribute() {
+	while (!at_end() && m_it->type() != token::token_attribute_name && m_it->type() != token::token_attributes_end) {
+		++m_it;
+	}
+	if (at_end()) {
+		throw load_error(load_unexpected, ustring8());
+	}
+	return m_it->type() == token::token_attribute_name;
+}
+
+std::string document_reader::attribute_value() {
+	++m_it;
+	std::string value = at_end() ? std::string() : std::string(m_it->value());
+	if (!at_end()) {
+		++m_it;
+	}
+	return value;
+}
+
+void document_reader::read_catalog_attributes(catalog_use &use) {
+	++m_it;
+	while (next_attribute()) {
+		if (m_it->value() == "name") {
+			use.name = attribute_value();
+		} else if (m_it->value() == "lang") {
+			use.language = attribute_value();
+		} else {
+			throw load_error(load_invalid_attribute, m_it->value());
+		}
+	}
+	++m_it;
+}
+
+void document_reader::open_catalog() {
+	catalog_use &use = m_document.catalogs.emplace_back();
+	use.line = line_at(m_it);
+	use.loads = true;
+	m_in_catalog = true;
+	read_catalog_attributes(use);
+	use.loads = use.language.empty() ? std::any_of(m_languages.begin(), m_languages.end(),
+	                                               [](std::string const &id) { return accepts_language(id, ""); })
+	                                 : accepts_language(use.language, use.language);
+	if (use.loads) {
+		return;
+	}
+	// Nobody looks at what stands in it.
+	while (!at_end() && !is(token::token_element_end, "catalog")) {
+		++m_it;
+	}
+	if (at_end()) {
+		throw load_error(load_no_catalog_end, ustring8(use.name));
+	}
+}
+
+void document_reader::include() {
+	std::size_t const line = line_at(m_it);
+	std::string path;
+	++m_it;
+	while (next_attribute()) {
+		if (m_it->value() != "file") {
+			throw load_error(load_invalid_attribute, m_it->value());
+		}
+		path = attribute_value();
+	}
+	++m_it;
+	if (path.empty()) {
+		throw load_error(load_file_not_found, ustring8());
+	}
+	m_document.includes.push_back({include_path(m_document.file, path), line});
+	if (!is(token::token_element_end, "include")) {
+		throw load_error(load_no_include_end, ustring8());
+	}
+	++m_it;
+}
+
+void document_reader::message() {
+	iterator const start = m_it;
+	m_in_message = true;
+	m_message.clear();
+	for (iterator it = std::next(start); it != m_segment->tokens.end() && it->type() == token::token_attribute_name;
+	     std::advance(it, 2)) {
+		if (it->value() == "name") {
+			m_message = std::next(it)->value();
+		}
+	}
+	message_use use{m_message, line_at(start), {}};
+	parse_message(m_it, m_segment->tokens.end());
+	check_ending(start);
+	add_arguments(use, start);
+	if (!m_document.catalogs.empty()) {
+		m_document.catalogs.back().messages.push_back(std::move(use));
+	}
+}
+
+// The loader ends a message and an argument at certain words, wherever they stand; what it
+// reads behind them makes no sense to it, but the word is where the fault is.
+void document_reader::check_ending(iterator start) {
+	std::size_t depth = 0;
+	iterator word = m_it;
+	for (iterator it = start; it != m_it; ++it) {
+		bool const is_text = it->type() == token::token_character || it->type() == token::token_comment;
+		if (it->type() == token::token_element_start) {
+			if (depth == 2 && word == m_it) {
+				word = it; // an element inside an argument
+			}
+			++depth;
+		} else if (it->type() == token::token_element_end) {
+			depth -= depth == 0 ? 0 : 1;
+		} else if (is_text && word == m_it && (depth == 1 ? it->value() == "msg" : is_argument(*it))) {
+			word = it;
+		}
+	}
+	if (depth == 0) {
+		return;
+	}
+	load_error error(load_no_catalog_end,
+	                 m_document.catalogs.empty() ? ustring8() : ustring8(m_document.catalogs.back().name));
+	if (word == m_it || word->type() == token::token_element_start) {
+		iterator const at = word == m_it ? std::prev(m_it) : word;
+		std::string const name = at->value();
+		add_fault(finding_kind::element,
+		          name == "msg" ? "<msg> can't stand in <msg>: </msg> is missing in front of it"
+		                        : "<" + name + "> can't stand in an argument, which takes no elements",
+		          error, at);
+	} else {
+		std::string const inside = word->value() == "msg" ? "message" : "argument";
+		std::string const what = word->type() == token::token_comment ? "a comment" : "a piece of text";
+		add_fault(finding_kind::ending_word,
+		          what + " that is exactly \"" + word->value() + "\" ends its " + inside +
+		              "; break the word with a comment, as in " + word->value().substr(0, 2) + "<!-- -->" +
+		              word->value().substr(2),
+		          error, word);
+	}
+	// The rest of the message is what nobody can make sense of.
+	while (!at_end() && depth != 0) {
+		if (is(token::token_element_start)) {
+			++depth;
+		} else if (is(token::token_element_end)) {
+			--depth;
+		}
+		++m_it;
+	}
+}
+
+void document_reader::add_arguments(message_use &use, iterator start) {
+	std::size_t index = m_step_index + static_cast<std::size_t>(std::distance(m_step, start));
+	bool in_argument = false;
+	for (iterator it = start; it != m_it; ++it, ++index) {
+		if (it->type() == token::token_element_start) {
+			in_argument = is_argument(*it);
+			if (in_argument) {
+				use.arguments.push_back({{}, m_lines.line(m_segment->offsets[index])});
+			}
+		} else if (it->type() == token::token_attribute_name && in_argument) {
+			use.arguments.back().attributes.push_back({it->value(), std::next(it)->value()});
+		}
+	}
+}
+
+// Goes on at the next element that can be read where the reading stands.
+void document_reader::resynchronise() {
+	// All at which this ends is taken by the next step, so the reading always moves on.
+	for (; !at_end(); ++m_it) {
+		bool const starts = is(token::token_element_start);
+		if (starts && (m_it->value() == "catalog" || m_it->value() == "include")) {
+			m_in_catalog = false;
+			return;
+		}
+		if (m_in_catalog && (is(token::token_element_start, "msg") || is(token::token_element_end, "catalog"))) {
+			return;
+		}
+		if (!m_in_catalog && is(token::token_element_end, "xmc")) {
+			return;
+		}
+		if (starts) {
+			m_refused.insert(m_it->value());
+		} else if (is(token::token_element_end)) {
+			if (auto const refused = m_refused.find(m_it->value()); refused != m_refused.end()) {
+				m_refused.erase(refused);
+			}
+		}
+	}
+}
+
+std::size_t document_reader::line_at(iterator at) const {
+	std::size_t const index = m_step_index + static_cast<std::size_t>(std::distance(m_step, at));
+	std::vector<std::size_t> const &offsets = m_segment->offsets;
+	return m_lines.line(index < offsets.size() ? offsets[index] : offsets.empty() ? 0 : offsets.back());
+}
+
+place document_reader::place_in_catalog() const {
+	place where;
+	if (m_in_catalog && !m_document.catalogs.empty()) {
+		where.in_catalog = true;
+		where.catalog = m_document.catalogs.back().name;
+		where.language = m_document.catalogs.back().language;
+		where.in_message = m_in_message;
+		where.message = m_in_message ? m_message : std::string();
+	}
+	return where;
+}
+
+void document_reader::add_fault(load_error error) {
+	if (at_end() && m_segment->fault) {
+		return; // the tokens end at a fault of the text, which is told on its own
+	}
+	std::string const outer = m_in_catalog ? "catalog" : m_in_root_tag ? "" : "xmc";
+	fault_words words = structure_words(error, *m_segment, m_step, m_it, outer);
+	add_fault(words.kind, std::move(words.text), error, m_it);
+}
+
+void document_reader::add_fault(finding_kind kind, std::string text, load_error const &error, iterator at) {
+	finding found{kind, m_document.file, place_in_catalog(), std::move(text), {}};
+	found.where.line = line_at(at);
+	if (at != m_segment->tokens.end() && at->type() == token::token_element_start) {
+		found.where.element = at->value();
+	}
+	load_error told = error;
+	if (found.where.in_catalog) {
+		told.append_error_stack(load_error::append_catalog, ustring8(found.where.catalog));
+	}
+	told.append_error_stack(load_error::append_file, ustring8(m_document.file));
+	found.loader = told.message();
+	m_document.faults.push_back(std::move(found));
+}
+
+void document_reader::add_syntax_fault(syntax_fault const &fault, std::string const &text) {
+	finding found{finding_kind::syntax, m_document.file, place_in_catalog(), syntax_words(fault, text, m_lines), {}};
+	found.where.line = m_lines.line(syntax_offset(fault, text));
+	load_error error(load_xml_error, fault.error);
+	error.append_error_stack(load_error::append_file, ustring8(m_document.file));
+	found.loader = error.message();
+	m_document.faults.push_back(std::move(found));
+}
+
+document document_reader::take() {
+	if (!m_found && m_document.faults.empty()) {
+		load_error const error(load_no_catalog, ustring8(m_document.file));
+		m_document.faults.push_back({finding_kind::no_catalog,
+		                             m_document.file,
+		                             {},
+		                             "the file has neither a <catalog> nor an <include>",
+		                             error.message()});
+	}
+	return std::move(m_document);
+}
+
+} // namespace quor_cli
