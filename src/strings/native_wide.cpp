@@ -5,7 +5,7 @@
 
 #include <quor/types/widths.hpp>
 
-#include "decode.hpp"
+#include "kernels/decode.hpp"
 
 namespace QUOR_2_9::strings {
 namespace {
@@ -53,7 +53,7 @@ std::wstring to_native_wide(ustring16 const &text) {
 	}
 	result.reserve(text.size());
 	for (std::size_t i = 0; i != text.size();) {
-		detail::decoded const next = detail::decode_utf16(text.data() + i, text.size() - i);
+		kernels::decoded const next = kernels::decode_utf16(text.data() + i, text.size() - i);
 		result.push_back(static_cast<wchar_t>(next.units != 0 ? next.code_point : text[i]));
 		i += next.units != 0 ? next.units : 1;
 	}

@@ -4,7 +4,7 @@
 
 #include <quor/debug/invalid_parameter.hpp>
 
-#include "decode.hpp"
+#include "kernels/decode.hpp"
 
 namespace QUOR_2_9::strings {
 namespace {
@@ -24,7 +24,7 @@ template <class Unit, class Decode>
 types::uint32 decode_at(Unit const *text, types::uint32 length, types::uint32 index, types::uint32 &consumed,
                         Decode decode) noexcept {
 	if (length > index) {
-		detail::decoded const result = decode(text + index, length - index);
+		kernels::decoded const result = decode(text + index, length - index);
 		if (result.units != 0) {
 			consumed = result.units;
 			return result.code_point;
@@ -82,24 +82,24 @@ types::uint32 string_length(ustring32 const &text) noexcept {
 }
 
 types::uint32 unichar(char const *text, types::uint32 length, types::uint32 index, types::uint32 &consumed) noexcept {
-	return decode_at(text, length, index, consumed, detail::decode_utf8);
+	return decode_at(text, length, index, consumed, kernels::decode_utf8);
 }
 
 types::uint32 unichar(types::wide_char const *text, types::uint32 length, types::uint32 index,
                       types::uint32 &consumed) noexcept {
-	return decode_at(text, length, index, consumed, detail::decode_utf16);
+	return decode_at(text, length, index, consumed, kernels::decode_utf16);
 }
 
 types::uint32 unichar(types::utf32_char const *text, types::uint32 length, types::uint32 index,
                       types::uint32 &consumed) noexcept {
 	return decode_at(text, length, index, consumed, [](types::utf32_char const *unit, std::size_t /*remaining*/) {
-		return detail::decoded{static_cast<types::uint32>(*unit), 1};
+		return kernels::decoded{static_cast<types::uint32>(*unit), 1};
 	});
 }
 
 types::uint32 character_index(ustring8 const &text, types::uint32 index) {
 	auto const step = [&text](std::size_t offset) {
-		return detail::decode_utf8(text.data() + offset, text.size() - offset).units;
+		return kernels::decode_utf8(text.data() + offset, text.size() - offset).units;
 	};
 	return walk(text, index, step);
 }
@@ -107,12 +107,12 @@ types::uint32 character_index(ustring8 const &text, types::uint32 index) {
 types::uint32 character_index(ustring16 const &text, types::uint32 index) {
 	// A low surrogate counts as a character unless the text begins with one: the rule
 	// looks at the first unit, wherever the walk stands.
-	unsigned int const single = !text.empty() && detail::is_low_surrogate(text.front()) ? 0 : 1;
+	unsigned int const single = !text.empty() && kernels::is_low_surrogate(text.front()) ? 0 : 1;
 	auto const step = [&text, single](std::size_t offset) {
-		if (!detail::is_high_surrogate(text[offset])) {
+		if (!kernels::is_high_surrogate(text[offset])) {
 			return single;
 		}
-		return detail::decode_utf16(text.data() + offset, text.size() - offset).units;
+		return kernels::decode_utf16(text.data() + offset, text.size() - offset).units;
 	};
 	return walk(text, index, step);
 }

@@ -95,6 +95,25 @@ TEST(allocation, transcoders_reserve_their_room_by_the_units_of_the_text) {
 	EXPECT_GE(utf8_to_utf16(repeated<ustring8>({0xE2, 0x82, 0xAC}, 1000)).capacity(), 1500U);
 }
 
+TEST(allocation, results_of_transcoders_waste_no_unbounded_memory) {
+	for (std::size_t const times : {std::size_t(10), std::size_t(200), std::size_t(40000)}) {
+		// Short texts get the room that the standard string takes at least.
+		auto const check = [](auto const &result) { EXPECT_LE(result.capacity(), 4 * result.size() + 32); };
+		for (numbers const &piece : pieces8) {
+			check(utf8_to_utf16(repeated<ustring8>(piece, times)));
+			check(utf8_to_utf32(repeated<ustring8>(piece, times)));
+		}
+		for (numbers const &piece : pieces16) {
+			check(utf16_to_utf8(repeated<ustring16>(piece, times)));
+			check(utf16_to_utf32(repeated<ustring16>(piece, times)));
+		}
+		for (numbers const &piece : pieces32) {
+			check(utf32_to_utf8(repeated<ustring32>(piece, times)));
+			check(utf32_to_utf16(repeated<ustring32>(piece, times)));
+		}
+	}
+}
+
 TEST(allocation, short_texts_are_transcoded_without_the_heap) {
 	ustring8 const text("abc");
 	EXPECT_EQ(allocations([&] { utf8_to_utf16(text); }), 0U);

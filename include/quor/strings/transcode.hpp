@@ -22,8 +22,10 @@
 ///
 /// For all six: sizes are stored sizes, zero units are ordinary, an empty text gives an
 /// empty text. Untrusted input: safe. Thread-safety: pure functions. Cost: linear, and
-/// one allocation at most, that of the result. Memory exhaustion and the standard
-/// string's length limit surface as the standard exceptions.
+/// one allocation at most, that of the result. The result of a long text may have a capacity
+/// of up to 4 times its size (of any size where units are left out): `shrink_to_fit` gives
+/// the rest back before a text is kept. Memory exhaustion and the standard string's length
+/// limit surface as the standard exceptions.
 ///
 /// @since 2.9
 

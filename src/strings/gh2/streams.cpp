@@ -6,7 +6,7 @@
 
 #include <quor/strings/native_wide.hpp>
 
-#include "strings/decode.hpp"
+#include "kernels/decode.hpp"
 #include "support/early_init.hpp"
 
 namespace QUOR_2_9::strings {
@@ -15,7 +15,7 @@ std::wostream &operator<<(std::wostream &stream, ustring16 const &text) {
 	std::wstring native = to_native_wide(text);
 	if constexpr (sizeof(wchar_t) != sizeof(types::wide_char)) {
 		constexpr wchar_t replacement = 0xFFFD;
-		std::replace_if(native.begin(), native.end(), detail::is_surrogate<wchar_t>, replacement);
+		std::replace_if(native.begin(), native.end(), kernels::is_surrogate<wchar_t>, replacement);
 	}
 	return stream << native;
 }

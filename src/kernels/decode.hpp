@@ -1,11 +1,11 @@
-#ifndef QUOR_STRINGS_DECODE_HPP
-#define QUOR_STRINGS_DECODE_HPP
+#ifndef QUOR_KERNELS_DECODE_HPP
+#define QUOR_KERNELS_DECODE_HPP
 
 #include <cstddef>
 
 #include <quor/types/widths.hpp>
 
-namespace QUOR_2_9::strings::detail {
+namespace QUOR_2_9::kernels {
 
 /// One code point and how many units it takes; 0 units mark bad input.
 struct decoded {
@@ -64,6 +64,6 @@ inline decoded decode_utf16(types::wide_char const *text, std::size_t remaining)
 	return {0, 0};
 }
 
-} // namespace QUOR_2_9::strings::detail
+} // namespace QUOR_2_9::kernels
 
 #endif
