@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "kernels/kernels.hpp"
 #include "platform/posix/code_pages/surrogates.hpp"
 #include "platform/posix/code_pages/unit_sink.hpp"
 #include "platform/posix/code_pages/unit_words.hpp"
@@ -144,28 +145,31 @@ char *put_utf8(char *out, uint32 point) noexcept {
 	return out;
 }
 
+/// Writes what comes before half a pair that stands alone, or what there is room for, and
+/// gives how many units that was.
+std::size_t encode_pairs(wide_char const *in, std::size_t size, unit_writer<char> &writer) noexcept {
+	if (writer.room() >= kernels::least_room) {
+		kernels::progress const made = kernels::utf16_to_utf8(in, size, writer.at(), writer.room());
+		writer.continue_at(writer.at() + made.written);
+		return made.read;
+	}
+	char last[kernels::least_room];
+	kernels::progress const made = kernels::utf16_to_utf8(in, size, last, kernels::least_room);
+	if (made.written > writer.room()) {
+		return 0;
+	}
+	writer.put_all(last, made.written);
+	return made.read;
+}
+
 void encode(std::basic_string_view<wide_char> text, unit_writer<char> &writer) noexcept {
 	wide_char const *in = text.data();
 	wide_char const *const end = in + text.size();
-	char *out = writer.at();
-	char *const last = out + writer.room();
-	// A pair at the end of a step takes one byte more than three for each unit of the step.
-	while (in != end && last - out >= 4) {
-		auto const units = static_cast<std::size_t>(end - in);
-		std::size_t const fit = std::min(units, static_cast<std::size_t>(last - out - 1) / 3);
-		if (fit >= step && all_below<0x80, step>(in)) {
-			out = std::transform(in, in + step, out, [](wide_char unit) { return static_cast<char>(unit); });
-			in += step;
-			continue;
-		}
-		for (wide_char const *const stop = in + std::min(fit, step); in < stop;) {
-			utf16_point const next = next_point(in, end);
-			out = put_utf8(out, next.point);
-			in += next.units;
-		}
-	}
-	writer.continue_at(out);
 	while (in != end) {
+		in += encode_pairs(in, static_cast<std::size_t>(end - in), writer);
+		if (in == end) {
+			return;
+		}
 		char bytes[4];
 		utf16_point const next = next_point(in, end);
 		auto const size = static_cast<std::size_t>(put_utf8(bytes, next.point) - bytes);
