@@ -26,7 +26,11 @@ constexpr std::size_t longest = 4;
 /// How many units are made ready to be written over, in a string that has no other way to
 /// grow: few enough to stay in the nearest cache until they are.
 template <class Unit>
-constexpr std::size_t stretch = 16384 / sizeof(Unit);
+constexpr std::size_t stretch = 8192 / sizeof(Unit);
+
+/// What the string grows by: these are copied faster than a fill writes wide units.
+template <class Unit>
+constexpr Unit zeros[stretch<Unit>] = {};
 
 /// Appends the result of a text, for which there is room, and tells how much of the text
 /// came before malformed input.
@@ -38,7 +42,7 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 		std::size_t const before = result.size();
 		std::size_t const room = std::min(result.capacity() - before, stretch<unit>);
 		if (room >= kernels::least_room) {
-			result.resize(before + room);
+			result.append(zeros<unit>, room);
 			made = kernel(text.data() + read, text.size() - read, result.data() + before, room);
 			result.resize(before + made.written);
 		} else {
