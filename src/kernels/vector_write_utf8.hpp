@@ -22,7 +22,7 @@ QUOR_VECTOR_PART char *put_pack(char *out, __m128i lanes, utf8_packs::pack const
 
 /// All ones in each lane that is at least `bound`.
 QUOR_VECTOR_PART __m128i lanes_from(__m128i points, int bound) noexcept {
-	return _mm_cmpeq_epi16(_mm_max_epu16(points, _mm_set1_epi16(static_cast<short>(bound))), points);
+	return _mm_cmpeq_epi16(_mm_subs_epu16(_mm_set1_epi16(static_cast<short>(bound)), points), _mm_setzero_si128());
 }
 
 /// The last bytes of the sequences, in the upper halves of their lanes.
@@ -134,6 +134,7 @@ QUOR_VECTOR_PART bool write_rest(course<In, char> &at) noexcept {
 }
 
 template <class In>
+// What is written goes by way of the course. NOLINTNEXTLINE(readability-non-const-parameter)
 QUOR_VECTOR progress write_utf8(In const *in, std::size_t size, char *out, std::size_t room) noexcept {
 	course<In, char> at(in, size, out, room);
 	bool well_formed = true;
