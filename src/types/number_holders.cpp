@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <ostream>
 #include <string>
@@ -55,14 +57,26 @@ std::size_t write_digits(Number value, Unit *buffer) noexcept {
 	return size;
 }
 
+/// Some standard libraries print a `long double` through the C library and leave the point
+/// of its locale in the text. Puts a plain one there and returns the text's new end.
+char *with_plain_point(char *text, char *end) noexcept {
+	auto const is_of_number = [](char c) { return (c >= '0' && c <= '9') || c == '-' || c == '+' || c == 'e'; };
+	char *const point = std::find_if_not(text, end, is_of_number);
+	if (point == end) {
+		return end;
+	}
+	*point = '.';
+	return std::copy(std::find_if(point, end, is_of_number), end, point + 1);
+}
+
 /// Writes a number into `number_size` characters and returns their count.
 template <class T>
 std::size_t print(T const &value, char *buffer) noexcept {
 	char *const end = buffer + number_size;
 	if constexpr (std::is_same_v<T, long double>) {
 		constexpr int stream_precision = 6;
-		return static_cast<std::size_t>(
-		    std::to_chars(buffer, end, value, std::chars_format::general, stream_precision).ptr - buffer);
+		char *const last = std::to_chars(buffer, end, value, std::chars_format::general, stream_precision).ptr;
+		return static_cast<std::size_t>((std::isfinite(value) ? with_plain_point(buffer, last) : last) - buffer);
 	} else if constexpr (std::is_floating_point_v<T>) {
 		if (value == 0) {
 			buffer[0] = '0';
