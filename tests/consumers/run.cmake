@@ -7,7 +7,8 @@
 #   package           makes the packages of BUILD and unpacks them below WORK
 #   cmake             configures and builds SOURCE into WORK with OPTIONS, runs it
 #   pkg_config        compiles PROGRAM against the module in PREFIX, runs it
-# With NO_RUN the programs are built only: they are for another system.
+# Programs for another system are run by the LAUNCHER, which finds the library in DLL_FOLDER;
+# their lines may end in its way, and their files in SUFFIX. With NO_RUN they are built only.
 
 cmake_minimum_required(VERSION 3.23)
 
@@ -24,7 +25,11 @@ function(compare program)
     return()
   endif()
   set(ENV{LD_LIBRARY_PATH} "${PREFIX}/lib")
-  execute_process(COMMAND "${program}" RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+  set(ENV{QUOR_WINE_PATH} "${DLL_FOLDER}")
+  execute_process(COMMAND ${LAUNCHER} "${program}" RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+  if(LAUNCHER)
+    string(REPLACE "\r\n" "\n" output "${output}")
+  endif()
   file(READ "${CMAKE_CURRENT_LIST_DIR}/program/expected.txt" expected)
   if(NOT code EQUAL 0 OR NOT output STREQUAL expected OR NOT errors STREQUAL "")
     message(FATAL_ERROR "${program} ended with ${code}\n--- printed\n${output}--- expected\n${expected}--- errors\n${errors}")
@@ -54,7 +59,7 @@ elseif(MODE STREQUAL "cmake")
   separate_arguments(OPTIONS UNIX_COMMAND "${OPTIONS}")
   run("${CMAKE_COMMAND}" -G Ninja -S "${SOURCE}" -B "${WORK}" ${OPTIONS})
   run("${CMAKE_COMMAND}" --build "${WORK}")
-  compare("${WORK}/consumer")
+  compare("${WORK}/consumer${SUFFIX}")
   if(EXISTS "${WORK}/abi_consumer" AND NOT NO_RUN)
     run("${WORK}/abi_consumer")
   endif()
@@ -70,8 +75,8 @@ elseif(MODE STREQUAL "pkg_config")
   endif()
   separate_arguments(flags UNIX_COMMAND "${flags}")
   separate_arguments(OPTIONS UNIX_COMMAND "${OPTIONS}")
-  run("${COMPILER}" -std=c++17 ${OPTIONS} "${CMAKE_CURRENT_LIST_DIR}/program/main.cpp" -o "${WORK}/consumer" ${flags})
-  compare("${WORK}/consumer")
+  run("${COMPILER}" -std=c++17 ${OPTIONS} "${CMAKE_CURRENT_LIST_DIR}/program/main.cpp" -o "${WORK}/consumer${SUFFIX}" ${flags})
+  compare("${WORK}/consumer${SUFFIX}")
 else()
   message(FATAL_ERROR "no mode \"${MODE}\"")
 endif()

@@ -8,7 +8,8 @@ foreach(format IN ITEMS binary text labeled)
     COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:address_book> -DFORMAT=${format}
             "-DEXPECTED=${PROJECT_SOURCE_DIR}/${books}/pellwick.${format}" "-DLAUNCHER=${CMAKE_CROSSCOMPILING_EMULATOR}"
             "-DWORK=${CMAKE_CURRENT_BINARY_DIR}/address_book" -P "${CMAKE_CURRENT_SOURCE_DIR}/store_and_compare.cmake")
-  set_tests_properties(examples.address_book_store_${format} PROPERTIES TIMEOUT 120 LABELS examples)
+  set_tests_properties(examples.address_book_store_${format} PROPERTIES TIMEOUT 120 LABELS examples
+    DISABLED ${QUOR_PROGRAMS_DO_NOT_RUN})
   quor_example_test(address_book_load_${format} address_book 0 ARGUMENTS ${format} load ${books}/pellwick.${format}
     OUTPUT address_book/list.txt)
   # A program that appends more values to each person, or gives them more labels.

@@ -26,8 +26,10 @@ quor_service_test(environment 0 NO_FILE OUTPUT environment.txt
 quor_service_test(precedence 0 OUTPUT precedence.txt
   ARGUMENTS -log_level=debug -backup.keep_days=7
   ENVIRONMENT LOG_LEVEL=trace server.port=7000 VERBOSE=on)
-quor_service_test(empty_environment_entry 0 NO_FILE OUTPUT empty_environment_entry.txt
-  ENVIRONMENT VERBOSE= sync.paused=1)
+if(NOT WIN32) # where no entry is empty
+  quor_service_test(empty_environment_entry 0 NO_FILE OUTPUT empty_environment_entry.txt
+    ENVIRONMENT VERBOSE= sync.paused=1)
+endif()
 
 # What tools/demo and the README show.
 quor_service_test(demo 0 OUTPUT demo.txt
@@ -78,7 +80,10 @@ quor_service_test(file_is_directory 1 ERRORS file_is_directory_errors.txt ARGUME
 quor_service_test(file_bad_key 1 ERRORS file_bad_key_errors.txt ARGUMENTS -cfg_file=one_byte_key.cfg
   FILES examples/broken/one_byte_key.cfg)
 
-# All that the sources hold.
+# All that the sources hold. On Windows every program has entries of the system's, too.
+if(WIN32)
+  return()
+endif()
 quor_service_test(dump 0 OUTPUT dump.txt ARGUMENTS -log_level=debug -sync.peers.names heron wren -dump
   ENVIRONMENT HOME=/home/mina LANG=en_GB.UTF-8 "PATH=/usr/bin:/bin" "A==b" server.port=7000)
 quor_service_test(dump_no_file 0 NO_FILE OUTPUT dump_no_file.txt ARGUMENTS /dump)

@@ -8,7 +8,8 @@
 # the caller's. It runs in the current directory.
 # With ENVIRONMENT, which may be empty, the program gets this environment and no other, and
 # runs in a directory that holds nothing but copies of the FILES; then the texts are
-# compared byte by byte, else but for the line ends.
+# compared byte by byte, else, and for another system, but for the line ends. A LAUNCHER runs
+# programs for another system.
 # With QUOR_UPDATE_EXPECTED in the environment the expected files are written anew.
 
 string(REPLACE "|" ";" arguments "${ARGUMENTS}")
@@ -22,8 +23,11 @@ if(DEFINED ENVIRONMENT)
   foreach(file IN LISTS files)
     file(COPY "${file}" DESTINATION "${place}")
   endforeach()
-  set(launcher env -i ${environment})
+  set(launcher env -i ${environment} ${LAUNCHER})
   set(line_ends "")
+  if(LAUNCHER)
+    set(line_ends --ignore-eol)
+  endif()
 else()
   set(place .)
   set(launcher ${LAUNCHER})

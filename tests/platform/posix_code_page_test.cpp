@@ -17,6 +17,7 @@
 #include "platform/posix/code_pages/unit_sink.hpp"
 #include "reference/code_pages.hpp"
 #include "support/c_locale.hpp"
+#include "support/made_locale.hpp"
 
 namespace {
 

@@ -55,6 +55,13 @@ inline std::string significant_text(double value, std::uint32_t precision) {
 	return result;
 }
 
+// The number that the C library reads. Some make a negative zero of a sign without a number.
+inline double c_number(std::string const &text) {
+	char *end = nullptr;
+	double const value = std::strtod(text.c_str(), &end);
+	return end == text.c_str() ? 0 : value;
+}
+
 // The decimal number that a text starts with.
 inline double leading_number(std::string const &text) {
 	std::size_t i = text.find_first_not_of(" \t\n\v\f\r");
@@ -83,7 +90,7 @@ inline double leading_number(std::string const &text) {
 		}
 		number += text[i];
 	}
-	return std::strtod(number.c_str(), nullptr);
+	return c_number(number);
 }
 
 } // namespace quor_reference

@@ -38,29 +38,32 @@ public:
 
 	// The library's spelling of a path in the directory; the directory itself for "".
 	QUOR_2_9::strings::ustring8 path(std::string const &name = {}) const {
-		QUOR_2_9::strings::ustring8 const root = m_root.string();
+		auto const native = m_root.u8string();
+		QUOR_2_9::strings::ustring8 const root(native.begin(), native.end());
 		return name.empty() ? root : root + "\\" + name;
 	}
 
-	// Writes a file and the directories above it; `name` has slashes.
+	// Writes a file and the directories above it; `name` is UTF-8 and has slashes.
 	void write(std::string const &name, std::string const &content) const {
-		auto const target = m_root / std::filesystem::path(name);
+		auto const target = native(name);
 		std::filesystem::create_directories(target.parent_path());
 		std::ofstream(target, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
 	}
 
 	std::string read(std::string const &name) const {
-		std::ifstream stream(m_root / std::filesystem::path(name), std::ios::binary);
+		std::ifstream stream(native(name), std::ios::binary);
 		return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 	}
 
-	void make_directory(std::string const &name) const {
-		std::filesystem::create_directories(m_root / std::filesystem::path(name));
-	}
+	void make_directory(std::string const &name) const { std::filesystem::create_directories(native(name)); }
 
-	bool has(std::string const &name) const { return std::filesystem::exists(m_root / std::filesystem::path(name)); }
+	bool has(std::string const &name) const { return std::filesystem::exists(native(name)); }
 
 private:
+	std::filesystem::path native(std::string const &name) const {
+		return m_root / std::filesystem::path(std::u8string(name.begin(), name.end()));
+	}
+
 	std::filesystem::path m_root;
 };
 
