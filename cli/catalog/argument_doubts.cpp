@@ -23,7 +23,7 @@ public:
 	argument_check(argument_use const &argument, std::string const &file, place const &where, finding_list &findings)
 	    : m_argument(argument), m_file(file), m_where(where), m_findings(findings) {
 		m_where.in_argument = true;
-		m_where.argument = argument.name();
+		m_where.argument = shortened(argument.name());
 		m_where.line = argument.line;
 		if (std::string const *const word = argument.find("type")) {
 			m_type = type_of_word(*word);

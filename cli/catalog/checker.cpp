@@ -135,18 +135,22 @@ std::set<std::string> tree_of(catalog_set const &set, std::string const &root) {
 	return tree;
 }
 
-// Loads a file for every language in it, to be sure that nothing was missed.
-void confirm(catalog_set const &set, std::string const &root, finding_list &findings) {
+// Loads a file for every language in it, to be sure that nothing was missed. Files that it
+// includes are loaded with it, and entered as confirmed.
+void confirm(catalog_set const &set, std::string const &root, std::set<std::string> &confirmed,
+             finding_list &findings) {
 	std::set<std::string> languages{""};
-	for (std::string const &file : tree_of(set, root)) {
-		if (findings.has_error(file)) {
+	std::set<std::string> const tree = tree_of(set, root);
+	for (std::string const &file : tree) {
+		auto const found = set.documents.find(file);
+		if (found == set.documents.end() || findings.has_error(file)) {
 			return;
 		}
-		auto const found = set.documents.find(file);
 		for (catalog_use const &catalog : found->second.catalogs) {
 			languages.insert(catalog.language);
 		}
 	}
+	confirmed.insert(tree.begin(), tree.end());
 	std::size_t count = 0;
 	for (std::string const &language : languages) {
 		if (count++ == most_languages) {
@@ -161,6 +165,24 @@ void confirm(catalog_set const &set, std::string const &root, finding_list &find
 			              "the file does not load for the language \"" + (language.empty() ? "en" : language) + "\"",
 			              error.message()});
 			return;
+		}
+	}
+}
+
+// Begins with the files that nobody includes, as they load the others along.
+void confirm_all(catalog_set const &set, finding_list &findings) {
+	std::set<std::string> included;
+	for (auto const &[file, read] : set.documents) {
+		for (include_use const &include : read.includes) {
+			included.insert(include.path);
+		}
+	}
+	std::set<std::string> confirmed;
+	for (bool const with_included : {false, true}) {
+		for (std::string const &root : set.roots) {
+			if ((with_included || included.count(root) == 0) && confirmed.count(root) == 0) {
+				confirm(set, root, confirmed, findings);
+			}
 		}
 	}
 }
@@ -222,9 +244,7 @@ check_result check_catalogs(std::vector<std::string> const &paths, std::size_t l
 	}
 	result.catalogs = catalogs.size();
 	add_set_doubts(set, result.findings);
-	for (std::string const &root : set.roots) {
-		confirm(set, root, result.findings);
-	}
+	confirm_all(set, result.findings);
 	result.findings.sort();
 	return result;
 }

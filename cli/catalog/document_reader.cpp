@@ -40,12 +40,11 @@ document_reader::document_reader(std::string const &file, line_table const &line
                                  std::list<token_segment> const &segments)
     : m_lines(lines) {
 	m_document.file = file;
-	for (std::string const &language : languages_of(segments)) {
-		// An id that begins with a separator accepts catalogs without a language.
-		if (!language.empty()) {
-			m_languages.insert(language);
-		}
-	}
+	std::set<std::string> const languages = languages_of(segments);
+	// An id that begins with a separator accepts catalogs without a language.
+	m_loads_without_language = std::any_of(languages.begin(), languages.end(), [](std::string const &id) {
+		return !id.empty() && accepts_language(id, "");
+	});
 }
 
 void document_reader::read(token_segment &segment, bool first) {
@@ -128,8 +127,7 @@ void document_reader::step_in_catalog() {
 		m_in_catalog = false;
 		++m_it;
 	} else {
-		throw load_error(load_no_catalog_end,
-		                 m_document.catalogs.empty() ? ustring8() : ustring8(m_document.catalogs.back().name));
+		throw load_error(load_no_catalog_end, catalog_name());
 	}
 }
 
@@ -172,9 +170,7 @@ void document_reader::open_catalog() {
 	use.loads = true;
 	m_in_catalog = true;
 	read_catalog_attributes(use);
-	use.loads = use.language.empty() ? std::any_of(m_languages.begin(), m_languages.end(),
-	                                               [](std::string const &id) { return accepts_language(id, ""); })
-	                                 : accepts_language(use.language, use.language);
+	use.loads = use.language.empty() ? m_loads_without_language : accepts_language(use.language, use.language);
 	if (use.loads) {
 		return;
 	}
@@ -183,7 +179,7 @@ void document_reader::open_catalog() {
 		++m_it;
 	}
 	if (at_end()) {
-		throw load_error(load_no_catalog_end, ustring8(use.name));
+		throw load_error(load_no_catalog_end, catalog_name());
 	}
 }
 
@@ -248,8 +244,7 @@ void document_reader::check_ending(iterator start) {
 	if (depth == 0) {
 		return;
 	}
-	load_error error(load_no_catalog_end,
-	                 m_document.catalogs.empty() ? ustring8() : ustring8(m_document.catalogs.back().name));
+	load_error error(load_no_catalog_end, catalog_name());
 	if (word == m_it || word->type() == token::token_element_start) {
 		iterator const at = word == m_it ? std::prev(m_it) : word;
 		std::string const name = at->value();
@@ -323,14 +318,18 @@ std::size_t document_reader::line_at(iterator at) const {
 	return m_lines.line(index < offsets.size() ? offsets[index] : offsets.empty() ? 0 : offsets.back());
 }
 
+ustring8 document_reader::catalog_name() const {
+	return m_document.catalogs.empty() ? ustring8() : ustring8(shortened(m_document.catalogs.back().name));
+}
+
 place document_reader::place_in_catalog() const {
 	place where;
 	if (m_in_catalog && !m_document.catalogs.empty()) {
 		where.in_catalog = true;
-		where.catalog = m_document.catalogs.back().name;
-		where.language = m_document.catalogs.back().language;
+		where.catalog = shortened(m_document.catalogs.back().name);
+		where.language = shortened(m_document.catalogs.back().language);
 		where.in_message = m_in_message;
-		where.message = m_in_message ? m_message : std::string();
+		where.message = m_in_message ? shortened(m_message) : std::string();
 	}
 	return where;
 }
@@ -348,7 +347,7 @@ void document_reader::add_fault(finding_kind kind, std::string text, load_error 
 	finding found{kind, m_document.file, place_in_catalog(), std::move(text), {}};
 	found.where.line = line_at(at);
 	if (at != m_segment->tokens.end() && at->type() == token::token_element_start) {
-		found.where.element = at->value();
+		found.where.element = shortened(at->value());
 	}
 	load_error told = error;
 	if (found.where.in_catalog) {

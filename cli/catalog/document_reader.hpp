@@ -53,11 +53,12 @@ private:
 	void add_fault(load_error error);
 	void add_fault(finding_kind kind, std::string text, load_error const &error, iterator at);
 	std::size_t line_at(iterator at) const;
+	quor::strings::ustring8 catalog_name() const;
 	place place_in_catalog() const;
 
 	line_table const &m_lines;
 	document m_document;
-	std::set<std::string> m_languages;
+	bool m_loads_without_language = false;
 	token_segment *m_segment = nullptr;
 	iterator m_it;
 	iterator m_step;              // where the current step began

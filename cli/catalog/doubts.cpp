@@ -21,8 +21,8 @@ place place_of(catalog_use const &catalog) {
 	place where;
 	where.line = catalog.line;
 	where.in_catalog = true;
-	where.catalog = catalog.name;
-	where.language = catalog.language;
+	where.catalog = shortened(catalog.name);
+	where.language = shortened(catalog.language);
 	return where;
 }
 
@@ -30,7 +30,7 @@ place place_of(catalog_use const &catalog, message_use const &message) {
 	place where = place_of(catalog);
 	where.line = message.line;
 	where.in_message = true;
-	where.message = message.name;
+	where.message = shortened(message.name);
 	return where;
 }
 
@@ -101,11 +101,11 @@ std::string type_list(std::set<message_item::type_t> const &types) {
 void compare_arguments(text_use const &reference, text_use const &other, finding_list &findings) {
 	auto const wanted = arguments_of(*reference.message);
 	auto const found = arguments_of(*other.message);
-	std::string const &language = reference.catalog->language;
+	std::string const language = shortened(reference.catalog->language);
 	auto const add = [&](std::string const &name, std::string text) {
 		place where = place_of(*other.catalog, *other.message);
 		where.in_argument = true;
-		where.argument = name;
+		where.argument = shortened(name);
 		findings.add({finding_kind::arguments_differ, other.read->file, where, std::move(text), {}});
 	};
 	for (auto const &[name, types] : wanted) {
@@ -145,27 +145,34 @@ void add_duplicate(text_use const &first, text_use const &second, finding_list &
 	              {}});
 }
 
-// Ids that differ in case alone name different languages.
+std::string lower_id(std::string const &id) {
+	return quor::strings::lower_case(ustring8(normalised_language(id)));
+}
+
+// Ids that differ in case alone name different languages: all but the most used one of
+// each spelling are doubtful.
 void add_case_doubts(catalog_set const &set, finding_list &findings) {
-	std::map<ustring8, std::map<std::string, std::size_t>> spellings;
+	std::map<std::string, std::size_t> uses;
 	for (auto const &[file, read] : set.documents) {
 		for (catalog_use const &catalog : read.catalogs) {
-			++spellings[quor::strings::lower_case(ustring8(normalised_language(catalog.language)))]
-			           [normalised_language(catalog.language)];
+			++uses[normalised_language(catalog.language)];
+		}
+	}
+	std::map<std::string, std::pair<std::string, std::size_t>> usual;
+	for (auto const &[id, count] : uses) {
+		auto &best = usual[lower_id(id)];
+		if (count > best.second) {
+			best = {id, count};
 		}
 	}
 	for (auto const &[file, read] : set.documents) {
 		for (catalog_use const &catalog : read.catalogs) {
-			std::string const id = normalised_language(catalog.language);
-			auto const &group = spellings[quor::strings::lower_case(ustring8(id))];
-			auto const usual = std::max_element(group.begin(), group.end(), [](auto const &left, auto const &right) {
-				return left.second < right.second;
-			});
-			if (usual->first != id) {
+			std::string const &best = usual[lower_id(catalog.language)].first;
+			if (best != normalised_language(catalog.language)) {
 				findings.add({finding_kind::language_spelling,
 				              read.file,
 				              place_of(catalog),
-				              "the language \"" + catalog.language + "\" is another one than \"" + usual->first +
+				              "the language \"" + catalog.language + "\" is another one than \"" + best +
 				                  "\" elsewhere: upper and lower case count",
 				              {}});
 			}

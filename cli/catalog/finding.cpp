@@ -40,6 +40,8 @@ constexpr std::array<std::string_view, 28> names = {
 };
 static_assert(names.size() == static_cast<std::size_t>(finding_kind::never_renders) + 1);
 
+constexpr std::size_t longest_text = 4000;
+
 std::string named(std::string const &element, std::string const &name) {
 	return name.empty() ? element : element + " \"" + name + "\"";
 }
@@ -52,6 +54,17 @@ std::string_view kind_name(finding_kind kind) {
 
 severity severity_of(finding_kind kind) {
 	return kind <= finding_kind::loader ? severity::error : severity::warning;
+}
+
+std::string shortened(std::string_view text, std::size_t limit) {
+	if (text.size() <= limit) {
+		return std::string(text);
+	}
+	// Not inside a character.
+	while (limit != 0 && (static_cast<unsigned char>(text[limit]) & 0xC0U) == 0x80) {
+		--limit;
+	}
+	return std::string(text.substr(0, limit)).append("...");
 }
 
 std::vector<std::string> element_path(place const &where) {
@@ -79,6 +92,8 @@ void finding_list::add(finding found) {
 		++m_files_with_errors[found.file];
 	}
 	file_findings &file = m_files[found.file];
+	found.text = shortened(found.text, longest_text);
+	found.loader = shortened(found.loader, longest_text);
 	if (m_limit != 0 && file.kept.size() == m_limit) {
 		++file.omitted;
 	} else {

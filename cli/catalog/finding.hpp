@@ -71,6 +71,9 @@ struct finding {
 	std::string loader; // what the loader says, for errors
 };
 
+// A name or a text of a file, cut where it is longer than anybody wants to read.
+std::string shortened(std::string_view text, std::size_t limit = 200);
+
 // The elements that lead to a place, outermost first: `catalog "app" (de)`.
 std::vector<std::string> element_path(place const &where);
 

@@ -85,6 +85,31 @@ TEST(check_hostile, deep_nesting_is_no_matter) {
 	EXPECT_LT(open.out.size(), 100000u);
 }
 
+TEST(check_hostile, a_long_name_is_not_repeated_with_every_fault) {
+	std::string const name(1 << 20, 'x');
+	std::string const text = "<?xml?><xmc version=\"1.1\"> <catalog name=\"" + name + "\" lang=\"en\">" +
+	                         repeated("<msg name=\"m\"><b/></msg>", 20000) + "<msg name=\"" + name + "\">" +
+	                         repeated("<arg type=\"x\"/>", 20000) + "</msg>" + tail;
+	command_result const result = check(text);
+	EXPECT_EQ(1, result.status);
+	EXPECT_TRUE(has(result.out, ": 20000 errors, 40000 warnings\n"));
+	EXPECT_LT(result.out.size(), 200000u);
+}
+
+TEST(check_hostile, many_languages_are_no_matter) {
+	std::string text = "<?xml?><xmc version=\"1.1\"> ";
+	for (unsigned i = 0; i != 20000; ++i) {
+		std::string id;
+		for (unsigned bit = 0; bit != 15; ++bit) {
+			id += static_cast<char>(((i >> bit) & 1U) != 0 ? 'A' : 'a');
+		}
+		text += "<catalog name=\"c\" lang=\"" + id + "\"/><catalog name=\"d\"/>";
+	}
+	command_result const result = check(text + "</xmc>");
+	EXPECT_EQ(1, result.status);
+	EXPECT_TRUE(has(result.out, ": 0 errors, 39999 warnings\n")) << result.out.substr(result.out.size() - 200);
+}
+
 TEST(check_hostile, zero_bytes_are_shown) {
 	command_result const result = check(head + "<msg na" + std::string(1, '\0') + "me=\"m\">x</msg>" + tail);
 	EXPECT_EQ(1, result.status);
