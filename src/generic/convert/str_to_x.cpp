@@ -4,10 +4,13 @@
 #include <quor/exceptions/runtime_error.hpp>
 #include <quor/strings/unichar.hpp>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
 
+#include "generic/convert/digit_blocks.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::generic::convert {
@@ -57,17 +60,24 @@ std::int64_t unit_value(Unit unit) noexcept {
 	return static_cast<std::int64_t>(unit);
 }
 
-constexpr uint32 no_digit = 0xFFFFFFFF;
+constexpr uint32 no_digit = 0xFF;
 
-/// The value of a digit in a radix from 2 to 36, or `no_digit`.
-uint32 digit_value(std::int64_t c, uint32 radix) noexcept {
-	std::int64_t value = -1;
-	if (support::is_digit(c)) {
-		value = c - '0';
-	} else if (support::is_letter(c)) {
-		value = support::to_lower(c) - 'a' + 10;
+/// The values of ASCII digits and letters.
+constexpr auto digit_values = [] {
+	std::array<unsigned char, 128> values{};
+	for (unsigned int c = 0; c != values.size(); ++c) {
+		values[c] = static_cast<unsigned char>(support::is_digit(c)    ? c - '0'
+		                                       : support::is_letter(c) ? support::to_lower(c) - 'a' + 10
+		                                                               : no_digit);
 	}
-	return value >= 0 && value < static_cast<std::int64_t>(radix) ? static_cast<uint32>(value) : no_digit;
+	return values;
+}();
+
+/// The value of a digit in any radix, or `no_digit`, which is above all.
+template <class Unit>
+uint32 digit_value(Unit unit) noexcept {
+	auto const c = static_cast<std::make_unsigned_t<Unit>>(unit);
+	return c < digit_values.size() ? digit_values[c] : no_digit;
 }
 
 /// A text on the way to its first digit.
@@ -130,6 +140,31 @@ bool find_digits(cursor<Unit> &at, bool &negative, uint32 &radix, report_site co
 	return true;
 }
 
+/// The number that some text goes on with in radix 10 or 16, where blocks tell it.
+template <class Unit>
+[[gnu::noinline]] detail::block_reading read_at_once(Unit const *digits, std::size_t size, uint32 radix) noexcept {
+	return radix == 10 ? detail::read_start<detail::decimal_block>(digits, size)
+	                   : detail::read_start<detail::hexadecimal_block>(digits, size);
+}
+
+/// Whether a number of digits behind an optional `-` is a `Result` without further ado. Negative
+/// numbers of 8 and 16 bits have odd bounds, and unsigned ones are no numbers.
+template <class Result>
+bool fits(std::uint64_t number, bool negative) noexcept {
+	constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<Result>::max());
+	if constexpr (std::is_signed_v<Result> && sizeof(Result) >= 4) {
+		return number <= largest + (negative ? 1U : 0U);
+	} else {
+		return !negative && number <= largest;
+	}
+}
+
+/// The number behind an optional `-`, which wraps in its width.
+template <class Result>
+Result with_sign(std::uint64_t number, bool negative) noexcept {
+	return static_cast<Result>(negative ? 0 - number : number);
+}
+
 /// Reads digits into `value` while they fit below `limit`; false at one that doesn't fit.
 ///
 /// The limit is divided as an unsigned number of at least 32 bits, then narrowed: for a
@@ -139,11 +174,14 @@ bool find_digits(cursor<Unit> &at, bool &negative, uint32 &radix, report_site co
 template <class Result, class Unit>
 bool read_digits(cursor<Unit> &at, uint32 radix, Result limit, Result &value) noexcept {
 	using wide = std::conditional_t<sizeof(Result) == 8, std::uint64_t, std::uint32_t>;
-	Result const bound = static_cast<Result>(static_cast<wide>(limit) / radix);
-	Result const last_digit = static_cast<Result>(static_cast<wide>(limit) % radix);
+	auto const limit_bits = static_cast<wide>(limit);
+	// A division by a constant is none.
+	wide const quotient = radix == 10 ? limit_bits / 10 : limit_bits / radix;
+	Result const bound = static_cast<Result>(quotient);
+	Result const last_digit = static_cast<Result>(limit_bits - quotient * radix);
 	for (;;) {
-		uint32 const digit = digit_value(at.unit(), radix);
-		if (digit == no_digit) {
+		uint32 const digit = digit_value(at.text[at.index]);
+		if (digit >= radix) {
 			return true;
 		}
 		if (value > bound || (value == bound && static_cast<Result>(digit) > last_digit)) {
@@ -156,9 +194,22 @@ bool read_digits(cursor<Unit> &at, uint32 radix, Result limit, Result &value) no
 	}
 }
 
+/// Goes to the digits and reads them, at once or one by one; false at one that doesn't fit.
+template <class Result, class Unit>
+bool read_number(cursor<Unit> &at, bool negative, uint32 radix, Result limit, Result &value) noexcept {
+	if (at.index < at.length && (radix == 10 || radix == 16)) {
+		auto const [number, known] = read_at_once(at.text + at.index, at.length - at.index, radix);
+		if (known && fits<Result>(number, negative)) {
+			value = static_cast<Result>(number);
+			return true;
+		}
+	}
+	return read_digits(at, radix, limit, value);
+}
+
 /// The signed numbers. A length of 0 means that the text is measured.
 template <class Result, class Unit>
-Result strtointx(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+[[gnu::noinline]] Result strtointx(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
 	cursor<Unit> at{text, length != 0 ? length : strings::string_length(text), 0};
 	bool negative = false;
 	if (!find_digits(at, negative, radix, signed_site)) {
@@ -166,19 +217,18 @@ Result strtointx(Unit const *text, uint32 length, uint32 radix, bool throw_on_ra
 	}
 	Result const limit = negative ? std::numeric_limits<Result>::min() : std::numeric_limits<Result>::max();
 	Result value = 0;
-	if (!read_digits(at, radix, limit, value)) {
+	if (!read_number(at, negative, radix, limit, value)) {
 		if (throw_on_range) {
 			throw_out_of_range(negative, signed_site);
 		}
 		return limit;
 	}
-	using bits = std::make_unsigned_t<Result>;
-	return negative ? static_cast<Result>(static_cast<bits>(0U - static_cast<bits>(value))) : value;
+	return with_sign<Result>(static_cast<std::uint64_t>(value), negative);
 }
 
 /// The unsigned numbers. A length of 0 stays 0: only the first unit is read.
 template <class Result, class Unit>
-Result strtouintx(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+[[gnu::noinline]] Result strtouintx(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
 	cursor<Unit> at{text, length, 0};
 	bool negative = false;
 	if (!find_digits(at, negative, radix, unsigned_site)) {
@@ -186,7 +236,7 @@ Result strtouintx(Unit const *text, uint32 length, uint32 radix, bool throw_on_r
 	}
 	Result const limit = std::numeric_limits<Result>::max();
 	Result value = 0;
-	if (!read_digits(at, radix, limit, value)) {
+	if (!read_number(at, negative, radix, limit, value)) {
 		if (throw_on_range) {
 			throw_out_of_range(negative, unsigned_site);
 		}
@@ -201,33 +251,96 @@ Result strtouintx(Unit const *text, uint32 length, uint32 radix, bool throw_on_r
 	return value;
 }
 
+template <class Result, class Unit>
+Result read_any(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	if constexpr (std::is_signed_v<Result>) {
+		return strtointx<Result>(text, length, radix, throw_on_range);
+	} else {
+		return strtouintx<Result>(text, length, radix, throw_on_range);
+	}
+}
+
+/// Reads a text that is nothing but a decimal number of more than eight digits.
+template <class Result, class Unit>
+[[gnu::noinline]] Result read_long(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	bool const negative = std::is_signed_v<Result> && *text == static_cast<Unit>('-');
+	Unit const *const digits = text + (negative ? 1 : 0);
+	std::size_t const size = std::size_t(length) - (negative ? 1 : 0);
+	if (size - 9 <= detail::most_digits - 9 &&
+	    (radix == 10 || (radix == 0 && support::is_between(*digits, '1', '9')))) {
+		auto const [number, known] = detail::read_long(digits, size);
+		if (known && fits<Result>(number, negative)) {
+			return with_sign<Result>(number, negative);
+		}
+	}
+	return read_any<Result>(text, length, radix, throw_on_range);
+}
+
+/// Reads a text that is nothing but a number of at most eight digits, as most are.
+template <class Result, class Unit>
+[[gnu::noinline]] Result read(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	bool const negative = std::is_signed_v<Result> && *text == static_cast<Unit>('-');
+	Unit const *const first = text + (negative ? 1 : 0);
+	std::size_t const size = std::size_t(length) - (negative ? 1 : 0);
+	// Size 0 wraps.
+	if (size - 1 < 8) {
+		// A detected radix is 10 where the first digit isn't zero.
+		if (radix == 10 || (radix == 0 && support::is_between(*first, '1', '9'))) {
+			using block = detail::decimal_block;
+			std::uint64_t const digits = block::digits(detail::load_short(first, size), detail::shift_of(size));
+			if (block::faults(digits) == 0) {
+				return with_sign<Result>(block::value(digits), negative);
+			}
+		} else if (radix == 16 && !negative) {
+			using block = detail::hexadecimal_block;
+			std::uint64_t const digits = block::digits(detail::load_short(first, size), detail::shift_of(size));
+			std::uint64_t const number = block::value(digits);
+			if (block::faults(digits) == 0 && fits<Result>(number, false)) {
+				return static_cast<Result>(number);
+			}
+		}
+		return read_any<Result>(text, length, radix, throw_on_range);
+	}
+	return read_long<Result>(text, length, radix, throw_on_range);
+}
+
+/// The numbers of 8 and 16 bits are too rare for routines of their own.
+template <class Result, class Unit>
+Result read_sized(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	if constexpr (sizeof(Result) < 4) {
+		return read_any<Result>(text, length, radix, throw_on_range);
+	} else {
+		return read<Result>(text, length, radix, throw_on_range);
+	}
+}
+
 } // namespace
 
 /// Defines one function of the family for its three text units.
-#define QUOR_DEFINE_STR_TO(name, result, routine)                                                                      \
+#define QUOR_DEFINE_STR_TO(name, result)                                                                               \
   result name(char const *text, uint32 length, radix_t::base radix, bool throw_on_range) {                             \
-	return routine<result>(text, length, radix, throw_on_range);                                                       \
+	return read_sized<result>(text, length, radix, throw_on_range);                                                    \
   }                                                                                                                    \
   result name(types::wide_char const *text, uint32 length, radix_t::base radix, bool throw_on_range) {                 \
-	return routine<result>(text, length, radix, throw_on_range);                                                       \
+	return read_sized<result>(text, length, radix, throw_on_range);                                                    \
   }                                                                                                                    \
   result name(types::utf32_char const *text, uint32 length, radix_t::base radix, bool throw_on_range) {                \
-	return routine<result>(text, length, radix, throw_on_range);                                                       \
+	return read_sized<result>(text, length, radix, throw_on_range);                                                    \
   }
 
-QUOR_DEFINE_STR_TO(str_to_long, types::int32, strtointx)
-QUOR_DEFINE_STR_TO(str_to_int, int, strtointx)
-QUOR_DEFINE_STR_TO(str_to_short, short, strtointx)
-QUOR_DEFINE_STR_TO(str_to_signed, int, strtointx)
-QUOR_DEFINE_STR_TO(str_to_unsigned, unsigned int, strtouintx)
-QUOR_DEFINE_STR_TO(str_to_int8, signed char, strtointx)
-QUOR_DEFINE_STR_TO(str_to_int16, short, strtointx)
-QUOR_DEFINE_STR_TO(str_to_int32, types::int32, strtointx)
-QUOR_DEFINE_STR_TO(str_to_int64, types::int64, strtointx)
-QUOR_DEFINE_STR_TO(str_to_uint8, unsigned char, strtouintx)
-QUOR_DEFINE_STR_TO(str_to_uint16, unsigned short, strtouintx)
-QUOR_DEFINE_STR_TO(str_to_uint32, types::uint32, strtouintx)
-QUOR_DEFINE_STR_TO(str_to_uint64, types::uint64, strtouintx)
+QUOR_DEFINE_STR_TO(str_to_long, types::int32)
+QUOR_DEFINE_STR_TO(str_to_int, int)
+QUOR_DEFINE_STR_TO(str_to_short, short)
+QUOR_DEFINE_STR_TO(str_to_signed, int)
+QUOR_DEFINE_STR_TO(str_to_unsigned, unsigned int)
+QUOR_DEFINE_STR_TO(str_to_int8, signed char)
+QUOR_DEFINE_STR_TO(str_to_int16, short)
+QUOR_DEFINE_STR_TO(str_to_int32, types::int32)
+QUOR_DEFINE_STR_TO(str_to_int64, types::int64)
+QUOR_DEFINE_STR_TO(str_to_uint8, unsigned char)
+QUOR_DEFINE_STR_TO(str_to_uint16, unsigned short)
+QUOR_DEFINE_STR_TO(str_to_uint32, types::uint32)
+QUOR_DEFINE_STR_TO(str_to_uint64, types::uint64)
 
 #undef QUOR_DEFINE_STR_TO
 

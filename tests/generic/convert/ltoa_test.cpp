@@ -198,6 +198,26 @@ TEST(ltoa, digits_agree_with_the_reference_in_every_radix) {
 	}
 }
 
+TEST(ltoa, numbers_around_every_power_agree_with_the_reference) {
+	for (int const radix : {2, 4, 7, 8, 10, 16, 32, 36}) {
+		auto const given = static_cast<unsigned int>(radix);
+		std::uint64_t power = 1;
+		do {
+			for (std::uint64_t const value : {power - 1, power, power + 1, power * 5, 0 - power}) {
+				SCOPED_TRACE(testing::Message() << value << " in " << radix);
+				ASSERT_EQ(ulltoa_text(value, given), digits_of(value, radix));
+				auto const narrow = static_cast<types::int32>(static_cast<std::uint32_t>(value));
+				ASSERT_EQ(ltoa_text(narrow, given), digits_of(narrow, radix));
+				auto const as_signed = static_cast<types::int64>(value);
+				if (as_signed != smallest64) {
+					ASSERT_EQ(lltoa_text(as_signed, given), digits_of(as_signed, radix));
+				}
+			}
+			power *= given;
+		} while (power % given == 0 && power != 0 && power < (std::uint64_t(1) << 63) / given);
+	}
+}
+
 TEST(ltoa, text_goes_back_through_str_to_x) {
 	std::mt19937_64 random(4);
 	for (int round = 0; round != 20000; ++round) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -134,6 +135,78 @@ TEST(str_to_x_reference, random_texts) {
 		bool const throwing = pick(4) == 0;
 		ASSERT_TRUE(agrees(function, text, length, radix, throwing))
 		    << described(function, text, length, radix, throwing);
+	}
+}
+
+// The text alone in memory of its own, so that a sanitizer sees a look behind its end.
+template <class Unit>
+outcome outcome_of_block(family_member const &function, std::vector<std::int64_t> const &units, std::uint32_t radix,
+                         bool throwing) {
+	std::vector<Unit> block;
+	block.reserve(units.size());
+	for (std::int64_t const unit : units) {
+		block.push_back(static_cast<Unit>(unit));
+	}
+	return outcome_of(function, block.data(), static_cast<types::uint32>(block.size()), radix, throwing);
+}
+
+// Narrow texts whose units are ASCII or not, in the three widths.
+void check_block(std::string const &text, std::uint32_t radix, bool throwing) {
+	std::vector<std::int64_t> units;
+	for (char const unit : text) {
+		units.push_back(static_cast<signed char>(unit));
+	}
+	for (char const *const name : {"str_to_int", "str_to_uint32", "str_to_int64", "str_to_uint64", "str_to_uint16"}) {
+		family_member const &function = member_named(name);
+		outcome const expected = quor_reference::str_to_number(units, units.size(), radix, throwing, function.type);
+		ASSERT_TRUE(outcome_of_block<char>(function, units, radix, throwing) == expected)
+		    << name << " of " << testing::PrintToString(text) << " in " << radix;
+		ASSERT_TRUE(outcome_of_block<types::wide_char>(function, units, radix, throwing) == expected)
+		    << name << " of " << testing::PrintToString(text) << " in " << radix << ", 16 bits";
+		ASSERT_TRUE(outcome_of_block<types::utf32_char>(function, units, radix, throwing) == expected)
+		    << name << " of " << testing::PrintToString(text) << " in " << radix << ", 32 bits";
+	}
+}
+
+TEST(str_to_x_reference, a_unit_that_is_no_digit_at_every_place_of_every_length) {
+	// The neighbours of the digits, and the units that come nearest to them in a wider sum.
+	std::string const bad("/:@GZ`g{ -+.\x76\x80\xB0\xB9\xFF\0", 19);
+	std::mt19937 random(3);
+	for (std::size_t size = 1; size <= 24; ++size) {
+		for (std::size_t place = 0; place <= size; ++place) {
+			for (char const unit : bad) {
+				std::string text;
+				for (std::size_t i = 0; i != size; ++i) {
+					text.push_back("1234567890abcdefABCDEF"[random() % (place % 2 == 0 ? 10 : 22)]);
+				}
+				if (place != size) {
+					text[place] = unit;
+				}
+				for (std::uint32_t const radix : {0U, 10U, 16U}) {
+					check_block(text, radix, false);
+					check_block("-" + text, radix, false);
+				}
+			}
+		}
+	}
+}
+
+TEST(str_to_x_reference, every_length_up_to_300) {
+	std::mt19937 random(4);
+	for (std::size_t size = 1; size <= 300; ++size) {
+		std::string digits;
+		while (digits.size() != size) {
+			digits.push_back(static_cast<char>('0' + random() % 10));
+		}
+		// Numbers beyond all bounds, and ones that zeros make long.
+		std::string zeros(size, '0');
+		zeros.replace(size - std::min<std::size_t>(size, 1 + random() % 20), 20,
+		              digits.substr(0, std::min<std::size_t>(size, 1 + random() % 20)));
+		for (std::uint32_t const radix : {0U, 2U, 8U, 10U, 16U, 36U}) {
+			for (std::string const &text : {digits, "-" + digits, zeros, "-" + zeros, "  +" + zeros, "0x" + digits}) {
+				check_block(text, radix, size % 8 == 0);
+			}
+		}
 	}
 }
 
