@@ -1,6 +1,7 @@
 #include "generic/convert/decimal_text.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -8,6 +9,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "generic/convert/decimal_digits.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::generic::convert::detail {
@@ -154,6 +156,55 @@ std::size_t print(double value, int precision, char *buffer, std::size_t size, s
 	return printed.ec == std::errc() ? static_cast<std::size_t>(printed.ptr - buffer) : 0;
 }
 
+/// Powers of ten that a 53-bit number can be multiplied by within 64 bits.
+constexpr std::uint64_t small_powers[] = {1, 10, 100, 1000};
+
+/// A number below 2^52 in magnitude, times a small power of ten, rounded to a whole number:
+/// exactly, ties to even.
+std::uint64_t scaled(double magnitude, std::uint64_t power) noexcept {
+	constexpr unsigned int fraction_bits = 52;
+	constexpr unsigned int bias = 1023;
+	auto const bits = std::bit_cast<std::uint64_t>(magnitude);
+	auto const exponent = static_cast<unsigned int>(bits >> fraction_bits);
+	std::uint64_t const fraction = bits & ((std::uint64_t(1) << fraction_bits) - 1);
+	// A number without exponent is far too small to show.
+	unsigned int const shift = bias + fraction_bits - exponent;
+	if (exponent == 0 || shift >= 64) {
+		return 0;
+	}
+	std::uint64_t const product = (fraction | std::uint64_t(1) << fraction_bits) * power;
+	std::uint64_t const whole = product >> shift;
+	std::uint64_t const rest = product << (64 - shift);
+	constexpr std::uint64_t half = std::uint64_t(1) << 63;
+	return whole + (rest > half || (rest == half && whole % 2 != 0) ? 1 : 0);
+}
+
+/// `fixed` for the usual numbers; 0 for others.
+std::size_t fixed_at_once(double value, int precision, char *buffer, std::size_t size) noexcept {
+	constexpr double bound = 4503599627370496.0; // 2^52
+	constexpr std::size_t longest = 1 + 16 + 1 + 3;
+	double const magnitude = std::fabs(value);
+	if (!(magnitude < bound) || precision < 0 || precision > 3 || size < longest) {
+		return 0;
+	}
+	std::uint64_t const power = small_powers[precision];
+	std::uint64_t const number = scaled(magnitude, power);
+	char *end = buffer;
+	if (std::signbit(value)) {
+		*end++ = '-';
+	}
+	end = write_decimal(number / power, end);
+	if (precision != 0) {
+		*end++ = '.';
+		auto rest = static_cast<std::uint32_t>(number % power);
+		for (int place = precision; place-- != 0; rest /= 10) {
+			end[place] = static_cast<char>('0' + rest % 10);
+		}
+		end += precision;
+	}
+	return static_cast<std::size_t>(end - buffer);
+}
+
 } // namespace
 
 std::size_t gcvt(double value, int digits, char *buffer) noexcept {
@@ -209,7 +260,8 @@ double atof(char const *text, std::size_t length) noexcept {
 }
 
 std::size_t fixed(double value, int precision, char *buffer, std::size_t size) noexcept {
-	return print(value, precision, buffer, size, std::chars_format::fixed);
+	std::size_t const written = fixed_at_once(value, precision, buffer, size);
+	return written != 0 ? written : print(value, precision, buffer, size, std::chars_format::fixed);
 }
 
 std::size_t scientific(double value, int precision, char *buffer, std::size_t size) noexcept {

@@ -356,7 +356,33 @@ TEST(decimal_text, fixed_and_scientific_agree_with_the_c_library) {
 	}
 }
 
+// Few decimals are rounded in whole numbers: ties, their neighbours, and the bounds of that way.
+TEST(decimal_text, fixed_with_few_decimals_agrees_with_the_c_library) {
+	std::mt19937_64 random(25);
+	auto const agree = [](double value) {
+		for (double const near : {std::nextafter(value, -infinity), value, std::nextafter(value, infinity)}) {
+			for (int precision = 0; precision <= 4; ++precision) {
+				ASSERT_EQ(fixed(near, precision), printed("%.*f", precision, near)) << precision;
+				ASSERT_EQ(fixed(-near, precision, 63), printed("%.*f", precision, -near)) << precision;
+			}
+		}
+	};
+	for (int exponent = -1074; exponent <= 63; ++exponent) {
+		agree(std::ldexp(1.0, exponent));
+		agree(std::ldexp(1.5, exponent));
+	}
+	for (int round = 0; round != 3000; ++round) {
+		auto const whole = static_cast<double>(random() >> (random() % 64));
+		agree(std::ldexp(whole, -static_cast<int>(random() % 24)));
+		agree(whole / 1000);
+	}
+}
+
 TEST(decimal_text, what_does_not_fit_is_not_written) {
+	for (std::size_t size = 0; size <= 24; ++size) {
+		EXPECT_EQ(fixed(-4503599627370495.5, 3, size), size >= 21 ? "-4503599627370495.500" : "");
+		EXPECT_EQ(fixed(7.25, 1, size), size >= 3 ? "7.2" : "");
+	}
 	EXPECT_EQ(fixed(123.456, 2, 6), "123.46");
 	EXPECT_EQ(fixed(123.456, 2, 5), "");
 	EXPECT_EQ(fixed(1e63, 0, 63), "");
