@@ -23,7 +23,8 @@ quor_format_packages=(clang-format-14 python3)
 quor_tidy_packages=(clang-tidy-14)
 quor_bench_packages=(libbenchmark-dev python3)
 quor_bench_peer_packages=(libglib2.0-dev libboost-dev libboost-program-options-dev libboost-serialization-dev
-	libcereal-dev libicu-dev qtbase5-dev libexpat1-dev libxml2-dev)
+	libcereal-dev libicu-dev qtbase5-dev libexpat1-dev libxml2-dev
+	libfmt-dev libboost-locale-dev)
 quor_docs_packages=(doxygen)
 quor_valgrind_packages=(valgrind)
 
