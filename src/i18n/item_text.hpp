@@ -9,6 +9,8 @@
 #include <quor/generic/varg_list.hpp>
 #include <quor/i18n/message_item.hpp>
 
+#include "i18n/text_writer.hpp"
+
 namespace QUOR_2_9::i18n::detail {
 
 /// Finds arguments by name, the first of each name, as the list does it. Where a long
@@ -23,12 +25,18 @@ public:
 	generic::argument const *find(std::string_view name) const;
 
 private:
-	generic::varg_list const &m_args;
+	generic::argument const *m_first;
+	std::size_t m_count;
 	std::unordered_map<std::string_view, generic::argument const *> m_index;
 };
 
-/// Appends the rendering of one item and reports to the debug channel when it reads "?invalid?".
-void append_item(std::string &out, message_item::type_t type, std::string_view data, argument_finder const &args);
+/// What stands in the text in place of an item that can't be rendered.
+inline constexpr std::string_view invalid_text = "?invalid?";
+
+/// Appends the rendering of one item, of whose data the first `name_size` characters are the
+/// argument's name, and reports to the debug channel when it reads "?invalid?".
+void append_item(text_writer &out, message_item::type_t type, std::string_view data, std::size_t name_size,
+                 argument_finder const &args);
 
 } // namespace QUOR_2_9::i18n::detail
 

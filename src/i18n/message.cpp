@@ -114,12 +114,16 @@ std::string message_t::as_string(generic::varg_list const &args) const {
 		arguments += is_argument(item) ? 1 : 0;
 	}
 	detail::argument_finder const finder(args, arguments);
-	std::string result;
-	result.reserve(size);
+	detail::text_writer out(size);
 	for (message_item const &item : m_items) {
-		detail::append_item(result, item.m_type, item.m_data, finder);
+		// A text that reads as the mark of a failure is reported as one.
+		if (!is_argument(item) && item.m_data.size() != detail::invalid_text.size()) {
+			out.append(item.m_data);
+		} else {
+			detail::append_item(out, item.m_type, item.m_data, item.name_size(), finder);
+		}
 	}
-	return result;
+	return out.take();
 }
 
 strings::ustring8 message_t::as_utf8(generic::varg_list const &args) const {

@@ -1,5 +1,4 @@
-#include <quor/generic/convert/ltoa.hpp>
-
+#include "generic/convert/decimal_digits.hpp"
 #include "i18n/format_attributes.hpp"
 #include "i18n/value_text.hpp"
 
@@ -97,7 +96,7 @@ bool read_metric_attributes(std::string_view format, unit_attributes &attributes
 
 } // namespace
 
-bool append_memory(std::string &out, types::uint64 value, std::string_view format, std::string_view &unit) {
+bool append_memory(text_writer &out, types::uint64 value, std::string_view format, std::string_view &unit) {
 	unit_attributes attributes;
 	if (!read_memory_attributes(format, attributes)) {
 		return false;
@@ -120,14 +119,14 @@ bool append_memory(std::string &out, types::uint64 value, std::string_view forma
 	if (index > last_memory_unit) {
 		return false;
 	}
-	char digits[24];
-	generic::convert::ulltoa(value, digits, 10);
-	out.append(digits);
+	namespace convert = generic::convert::detail;
+	out.append_written<convert::decimal_digits_size>(
+	    [value](char *buffer) noexcept { return convert::decimal_digits(value, buffer); });
 	unit = memory_units[index];
 	return true;
 }
 
-bool append_metric(std::string &out, types::uint32 value, std::string_view format, std::string_view &unit) {
+bool append_metric(text_writer &out, types::uint32 value, std::string_view format, std::string_view &unit) {
 	unit_attributes attributes;
 	if (!read_metric_attributes(format, attributes)) {
 		return false;

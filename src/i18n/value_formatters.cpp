@@ -6,25 +6,20 @@ namespace QUOR_2_9::i18n::_private {
 namespace {
 
 template <class Value>
-strings::ustring8 text_of(bool (*append)(std::string &, Value, std::string_view), Value value,
+strings::ustring8 text_of(bool (*append)(detail::text_writer &, Value, std::string_view), Value value,
                           strings::ustring8 const &format) {
-	strings::ustring8 result;
-	if (!append(result, value, format)) {
-		result = detail::failure_text;
-	}
-	return result;
+	detail::text_writer out;
+	return append(out, value, format) ? out.take() : std::string(detail::failure_text);
 }
 
 template <class Value>
-strings::ustring8 text_of(bool (*append)(std::string &, Value, std::string_view, std::string_view &), Value value,
-                          strings::ustring8 const &format, strings::ustring8 &unit) {
-	strings::ustring8 result;
+strings::ustring8 text_of(bool (*append)(detail::text_writer &, Value, std::string_view, std::string_view &),
+                          Value value, strings::ustring8 const &format, strings::ustring8 &unit) {
+	detail::text_writer out;
 	std::string_view unit_text;
-	if (!append(result, value, format, unit_text)) {
-		result = detail::failure_text;
-	}
+	bool const known = append(out, value, format, unit_text);
 	unit = unit_text;
-	return result;
+	return known ? out.take() : std::string(detail::failure_text);
 }
 
 } // namespace

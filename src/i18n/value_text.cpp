@@ -2,6 +2,7 @@
 
 #include <quor/generic/convert/ltoa.hpp>
 
+#include "generic/convert/decimal_digits.hpp"
 #include "i18n/format_attributes.hpp"
 
 namespace QUOR_2_9::i18n::detail {
@@ -109,15 +110,21 @@ int64 padding_zeros(int_attributes const &attributes, int64 size, int64 extra) n
 	return extra + size < attributes.fieldsize ? attributes.fieldsize - extra - size : 0;
 }
 
-void append_number(text_block<192> &text, types::int32 value) noexcept {
-	char digits[16];
-	generic::convert::ltoa(value, digits, 10);
-	text.append(std::string_view(digits));
+/// A number as `ltoa` and `lltoa` write it in radix 10.
+template <class Number>
+void append_decimal(text_writer &out, Number value) {
+	namespace convert = generic::convert::detail;
+	out.append_written<convert::decimal_digits_size>(
+	    [value](char *buffer) noexcept { return convert::decimal_digits(value, buffer); });
 }
 
 } // namespace
 
-bool append_int(std::string &out, int64 value, std::string_view format) {
+bool append_int(text_writer &out, int64 value, std::string_view format) {
+	if (format.empty()) {
+		append_decimal(out, value);
+		return true;
+	}
 	int_attributes attributes;
 	if (!read_int_attributes(format, attributes)) {
 		return false;
@@ -148,12 +155,13 @@ bool append_int(std::string &out, int64 value, std::string_view format) {
 	if (attributes.radix == 2) {
 		body.append('b');
 	}
-	out.reserve(out.size() + prefix.size() + static_cast<std::size_t>(zeros) + body.view().size());
-	out.append(prefix).append(static_cast<std::size_t>(zeros), '0').append(body.view());
+	out.append(prefix);
+	out.append(static_cast<std::size_t>(zeros), '0');
+	out.append(body.view());
 	return true;
 }
 
-bool append_double(std::string &out, double value, std::string_view format) {
+bool append_double(text_writer &out, double value, std::string_view format) {
 	int precision = 2;
 	int fieldsize = 0;
 	bool const known = read_attributes(format, [&](std::string_view key, std::string_view text) {
@@ -179,16 +187,14 @@ bool append_double(std::string &out, double value, std::string_view format) {
 		return false;
 	}
 	std::string_view const shown = width == 0 ? number.view() : number.view().substr(0, width);
-	text_block<longest_number> padded;
-	for (std::size_t blanks = width - shown.size(); width != 0 && blanks != 0; --blanks) {
-		padded.append(' ');
+	if (width != 0) {
+		out.append(width - shown.size(), ' ');
 	}
-	padded.append(shown);
-	out.append(padded.view());
+	out.append(shown);
 	return true;
 }
 
-bool append_duration(std::string &out, double seconds, std::string_view format) {
+bool append_duration(text_writer &out, double seconds, std::string_view format) {
 	std::string_view precision = "2";
 	bool short_form = false;
 	bool const known = read_attributes(format, [&](std::string_view key, std::string_view value) {
@@ -209,22 +215,20 @@ bool append_duration(std::string &out, double seconds, std::string_view format) 
 	auto const minutes = static_cast<types::int32>(rest) / 60;
 	rest -= minutes * 60;
 
-	text_block<192> text;
 	bool shown = false;
 	auto const part = [&](types::int32 number, std::string_view long_unit, std::string_view short_unit) {
 		shown = shown || number != 0;
 		if (shown) {
-			append_number(text, number);
-			text.append(short_form ? short_unit : long_unit);
+			append_decimal(out, number);
+			out.append(short_form ? short_unit : long_unit);
 		}
 	};
 	part(days, " dy ", "d ");
 	part(hours, " hr ", "h ");
 	part(minutes, " min ", "m ");
 	printed_number const printed = printed_number::fixed(rest, leading_int(precision));
-	text.append(precision.empty() || printed.empty() ? failure_text : printed.view());
-	text.append(short_form ? "s" : " sec");
-	out.append(text.view());
+	out.append(precision.empty() || printed.empty() ? failure_text : printed.view());
+	out.append(short_form ? "s" : " sec");
 	return true;
 }
 

@@ -2,10 +2,11 @@
 #define QUOR_SRC_I18N_VALUE_TEXT_HPP
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 #include <quor/types/widths.hpp>
+
+#include "i18n/text_writer.hpp"
 
 namespace QUOR_2_9::i18n::detail {
 
@@ -18,11 +19,11 @@ inline constexpr std::size_t longest_number = 63;
 // Each of these appends what the public formatter of the same name returns and answers
 // true, or answers false for a failure and appends nothing. `unit` gets a literal.
 
-bool append_int(std::string &out, types::int64 value, std::string_view format);
-bool append_double(std::string &out, double value, std::string_view format);
-bool append_duration(std::string &out, double seconds, std::string_view format);
-bool append_memory(std::string &out, types::uint64 value, std::string_view format, std::string_view &unit);
-bool append_metric(std::string &out, types::uint32 value, std::string_view format, std::string_view &unit);
+bool append_int(text_writer &out, types::int64 value, std::string_view format);
+bool append_double(text_writer &out, double value, std::string_view format);
+bool append_duration(text_writer &out, double seconds, std::string_view format);
+bool append_memory(text_writer &out, types::uint64 value, std::string_view format, std::string_view &unit);
+bool append_metric(text_writer &out, types::uint32 value, std::string_view format, std::string_view &unit);
 
 /// A text on the stack for the printing of one value. The capacity is the caller's duty.
 template <std::size_t Capacity>

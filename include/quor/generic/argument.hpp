@@ -23,6 +23,8 @@ class argument;
 
 namespace detail {
 
+struct argument_parts;
+
 /// Whether a `T` stands for the value of an argument: whatever a `variant` can be made
 /// from, but neither nil nor a variant nor an argument.
 template <class T>
@@ -93,6 +95,8 @@ public:
 	bool operator!=(types::nil_t const &) const;
 
 private:
+	friend struct detail::argument_parts;
+
 	strings::ustring8 m_name;
 	types::variant m_value;
 };

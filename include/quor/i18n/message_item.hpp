@@ -14,9 +14,12 @@
 ///
 /// @since 2.9
 
+#include <cstddef>
+
 #include <quor/export.hpp>
 #include <quor/generic/varg_list.hpp>
 #include <quor/strings/ustring.hpp>
+#include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::i18n {
 
@@ -99,16 +102,20 @@ public:
 	/// @throws what the conversions of `variant` to text throw, and what the handler of
 	///         the debug channel throws.
 	/// Untrusted input: safe for any field string. Cost: linear in the number of
-	/// arguments and in the result; allocates the result, the text of a string piece once
-	/// more, and a report to the debug channel.
+	/// arguments and in the result; allocates the result, the text of a string piece that holds
+	/// no narrow text, and a report to the debug channel.
 	/// @since 2.9
 	strings::ustring8 as_string(generic::varg_list const &args) const;
 
 private:
 	friend class message_t;
 
+	std::size_t name_size() const noexcept;
+
 	strings::ustring8 m_data;
 	type_t m_type;
+	// How much of a field string is the name, so that rendering needn't look.
+	types::uint32 m_name_size;
 };
 
 } // namespace QUOR_2_9::i18n
