@@ -1,5 +1,7 @@
 #include <quor/i18n/catalog.hpp>
 
+#include <functional>
+
 #include <quor/strings/transcode.hpp>
 
 #include "i18n/language_id.hpp"
@@ -11,17 +13,35 @@ using strings::ustring16;
 using strings::ustring32;
 using strings::ustring8;
 
+namespace {
+
+/// How many places are looked at for one name. Names whose hashes collide more than that, which
+/// takes somebody who chose them, are left to the map.
+constexpr std::size_t most_probes = 32;
+
+constexpr std::size_t smallest_index = 16;
+
+std::size_t hash_of(std::string_view key) noexcept {
+	return std::hash<std::string_view>()(key);
+}
+
+} // namespace
+
 QUOR_EARLY_INIT message_t const catalog_t::m_nil_message;
 
 catalog_t::catalog_t() = default;
 
 catalog_t::catalog_t(ustring8 const &name, std::vector<ustring8> const & /*languages*/,
                      std::map<ustring8, message_t> const &messages)
-    : m_name(name), m_messages(messages) {}
+    : m_name(name), m_messages(messages) {
+	reserve_index(m_messages.size());
+}
 
 catalog_t::catalog_t(catalog_t const &other)
     : reference_count_pointer_ability(), m_name(other.m_name), m_languages(other.m_languages),
-      m_messages(other.m_messages) {}
+      m_messages(other.m_messages) {
+	reserve_index(m_messages.size());
+}
 
 catalog_t::~catalog_t() = default;
 
@@ -31,6 +51,8 @@ catalog_t &catalog_t::assign(catalog_t const &other) {
 		m_name.swap(copy.m_name);
 		m_languages.swap(copy.m_languages);
 		m_messages.swap(copy.m_messages);
+		m_index.swap(copy.m_index);
+		m_index_is_whole = copy.m_index_is_whole;
 	}
 	return *this;
 }
@@ -42,6 +64,8 @@ catalog_t &catalog_t::operator=(catalog_t const &other) {
 catalog_t &catalog_t::assign(types::nil_t const & /*nil*/) {
 	m_name.clear();
 	m_languages.clear();
+	m_index.clear();
+	m_index_is_whole = true;
 	m_messages.clear();
 	return *this;
 }
@@ -71,7 +95,7 @@ ustring8 catalog_t::name() const {
 }
 
 bool catalog_t::has_message(ustring8 const &key) const {
-	return m_messages.find(key) != m_messages.end();
+	return find(key) != nullptr;
 }
 
 bool catalog_t::has_message(ustring16 const &key) const {
@@ -83,8 +107,8 @@ bool catalog_t::has_message(ustring32 const &key) const {
 }
 
 message_t const &catalog_t::message(ustring8 const &key) const {
-	auto const found = m_messages.find(key);
-	return found != m_messages.end() ? found->second : m_nil_message;
+	message_t const *const found = find(key);
+	return found != nullptr ? *found : m_nil_message;
 }
 
 message_t const &catalog_t::message(ustring16 const &key) const {
@@ -96,10 +120,66 @@ message_t const &catalog_t::message(ustring32 const &key) const {
 }
 
 message_t const &catalog_t::message(ustring8 const &key, message_t const &value) {
-	auto const stored = m_messages.insert_or_assign(key, value).first;
+	// First, as it may fail for want of memory.
+	reserve_index(m_messages.size() + 1);
+	auto const [stored, is_new] = m_messages.insert_or_assign(key, value);
+	if (is_new) {
+		add_to_index(*stored);
+	}
 	// Last, as the key may be one of these.
 	m_languages.clear();
 	return stored->second;
+}
+
+message_t const *catalog_t::find(std::string_view key) const {
+	if (m_index.empty()) {
+		return nullptr;
+	}
+	std::size_t const mask = m_index.size() - 1;
+	std::size_t const first = hash_of(key);
+	for (std::size_t i = 0; i != most_probes; ++i) {
+		message_map::value_type const *const entry = m_index[(first + i) & mask];
+		if (entry == nullptr) {
+			break;
+		}
+		if (entry->first == key) {
+			return &entry->second;
+		}
+	}
+	if (m_index_is_whole) {
+		return nullptr;
+	}
+	auto const found = m_messages.find(ustring8(key));
+	return found != m_messages.end() ? &found->second : nullptr;
+}
+
+/// Makes room for so many messages, with all present ones in their places.
+void catalog_t::reserve_index(std::size_t count) {
+	if (2 * count <= m_index.size()) {
+		return;
+	}
+	std::size_t size = smallest_index;
+	while (size < 2 * count) {
+		size *= 2;
+	}
+	m_index = std::vector<message_map::value_type const *>(size);
+	m_index_is_whole = true;
+	for (auto const &entry : m_messages) {
+		add_to_index(entry);
+	}
+}
+
+void catalog_t::add_to_index(message_map::value_type const &entry) noexcept {
+	std::size_t const mask = m_index.size() - 1;
+	std::size_t const first = hash_of(entry.first);
+	for (std::size_t i = 0; i != most_probes; ++i) {
+		message_map::value_type const *&place = m_index[(first + i) & mask];
+		if (place == nullptr) {
+			place = &entry;
+			return;
+		}
+	}
+	m_index_is_whole = false;
 }
 
 void catalog_t::gen_lang_set() const {

@@ -60,6 +60,26 @@ catalog_t const *message_catalogs::find(ustring8 const &name) const {
 	return found != m_catalogs.end() ? found->second.get() : nullptr;
 }
 
+/// The same without a string of its own, where that takes a few looks.
+catalog_t const *message_catalogs::find_view(std::string_view name) const {
+	constexpr std::size_t few = 8;
+	if (m_catalogs.size() > few) {
+		return find(ustring8(name));
+	}
+	for (auto const &[key, pointer] : m_catalogs) {
+		if (key == name) {
+			return pointer.get();
+		}
+	}
+	return nullptr;
+}
+
+message_t const &message_catalogs::message_view(std::string_view catalog, std::string_view key) const {
+	auto const *found = find_view(catalog);
+	message_t const *const message = found != nullptr ? found->find(key) : nullptr;
+	return message != nullptr ? *message : found != nullptr ? catalog_t::m_nil_message : s_nil_message;
+}
+
 bool message_catalogs::has_catalog(ustring8 const &name) const {
 	return find(name) != nullptr;
 }
@@ -124,11 +144,14 @@ message_t const &message_catalogs::message(ustring32 const &catalog_name, ustrin
 }
 
 message_t const &message_catalogs::message(std::string const &catalog_name, std::string const &key) const {
-	return message(as_utf8(catalog_name), as_utf8(key));
+	return message_view(catalog_name, key);
 }
 
 message_t const &message_catalogs::message(char const *catalog_name, char const *key) const {
-	return message(ustring8(catalog_name), ustring8(key));
+	if (catalog_name == nullptr || key == nullptr) {
+		return message(ustring8(catalog_name), ustring8(key)); // throws what strings throw
+	}
+	return message_view(catalog_name, key);
 }
 
 std::size_t message_catalogs::size(ustring8 const &name) const {

@@ -1,12 +1,15 @@
 // What rendering and formatting ask of the heap.
 
+#include <new>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include <quor/generic/varg_list.hpp>
+#include <quor/i18n/catalog.hpp>
 #include <quor/i18n/message.hpp>
+#include <quor/i18n/message_catalogs.hpp>
 #include <quor/i18n/value_formatters.hpp>
 
 #include "support/allocation_counter.hpp"
@@ -127,6 +130,46 @@ TEST(rendering, doubled_messages_ask_for_twice_the_memory_at_most) {
 	};
 	std::size_t const once = bytes(2048);
 	EXPECT_LE(bytes(4096), once * 22 / 10);
+}
+
+TEST(look_up, by_literals_allocates_nothing) {
+	quor::i18n::catalog_t catalog;
+	for (int i = 0; i != 100; ++i) {
+		catalog.message(ustring8("a message with a name that is long " + std::to_string(i)), message_t());
+	}
+	quor::i18n::message_catalogs const catalogs;
+	ustring8 const key("a message with a name that is long 7");
+	quor_test::allocation_counter const counter;
+	EXPECT_TRUE(catalog.has_message(key));
+	EXPECT_TRUE(catalogs.message("a catalog with a name that is long", "a message with a long name") ==
+	            quor::types::nil);
+	EXPECT_EQ(0u, counter.count());
+}
+
+TEST(look_up, a_failed_allocation_leaves_the_catalog_as_it_was) {
+	ustring8 const first("the first message with a long name");
+	message_t const message(first, std::vector<message_item>(3, message_item("a text that is long enough")));
+	for (std::size_t index = 0;; ++index) {
+		quor::i18n::catalog_t catalog;
+		for (int i = 0; i != 8; ++i) {
+			catalog.message(ustring8(std::to_string(i)), message);
+		}
+		bool happened = false;
+		{
+			quor_test::allocation_failure const failure(index);
+			try {
+				catalog.message(first, message);
+			} catch (std::bad_alloc const &) {
+			}
+			happened = failure.happened();
+		}
+		EXPECT_EQ(catalog.size(), happened ? 8U : 9U);
+		EXPECT_EQ(catalog.has_message(first), !happened);
+		EXPECT_TRUE(catalog.has_message("7"));
+		if (!happened) {
+			break;
+		}
+	}
 }
 
 } // namespace

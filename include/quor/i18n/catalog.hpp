@@ -165,9 +165,20 @@ public:
 	const_iterator end() const noexcept { return m_messages.end(); }
 
 private:
+	friend class message_catalogs;
+
+	using message_map = std::map<strings::ustring8, message_t>;
+
+	message_t const *find(std::string_view key) const;
+	void reserve_index(std::size_t count);
+	void add_to_index(message_map::value_type const &entry) noexcept;
+
 	strings::ustring8 m_name;
 	mutable std::set<strings::ustring8> m_languages;
-	std::map<strings::ustring8, message_t> m_messages;
+	message_map m_messages;
+	// The messages by the hash of their names: a power of two of places, at most half of them taken.
+	std::vector<message_map::value_type const *> m_index;
+	bool m_index_is_whole = true;
 };
 
 } // namespace QUOR_2_9::i18n

@@ -18,6 +18,7 @@
 #include <initializer_list>
 #include <map>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -281,6 +282,8 @@ private:
 	struct request;
 
 	catalog_t const *find(ustring8 const &name) const;
+	catalog_t const *find_view(std::string_view name) const;
+	message_t const &message_view(std::string_view catalog, std::string_view key) const;
 	result_type load_one(ustring8 const &path, request const &wanted);
 	result_type load_one_file(ustring8 const &file, request const &wanted);
 	result_type load_below(ustring8 const &directory, request const &wanted);

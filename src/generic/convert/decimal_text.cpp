@@ -156,9 +156,6 @@ std::size_t print(double value, int precision, char *buffer, std::size_t size, s
 	return printed.ec == std::errc() ? static_cast<std::size_t>(printed.ptr - buffer) : 0;
 }
 
-/// Powers of ten that a 53-bit number can be multiplied by within 64 bits.
-constexpr std::uint64_t small_powers[] = {1, 10, 100, 1000};
-
 /// A number below 2^52 in magnitude, times a small power of ten, rounded to a whole number:
 /// exactly, ties to even.
 std::uint64_t scaled(double magnitude, std::uint64_t power) noexcept {
@@ -179,30 +176,49 @@ std::uint64_t scaled(double magnitude, std::uint64_t power) noexcept {
 	return whole + (rest > half || (rest == half && whole % 2 != 0) ? 1 : 0);
 }
 
+/// Writes a number below 2^52 in magnitude with so few decimals that, without the point, it is a
+/// whole number of 64 bits.
+template <int Precision>
+std::size_t write_fixed(double magnitude, bool negative, char *buffer) noexcept {
+	constexpr std::uint64_t power = Precision == 0 ? 1 : Precision == 1 ? 10 : Precision == 2 ? 100 : 1000;
+	std::uint64_t const number = scaled(magnitude, power);
+	char *end = buffer;
+	if (negative) {
+		*end++ = '-';
+	}
+	end = write_decimal(number / power, end);
+	if constexpr (Precision != 0) {
+		*end++ = '.';
+		auto rest = static_cast<std::uint32_t>(number % power);
+		for (int place = Precision; place-- != 0; rest /= 10) {
+			end[place] = static_cast<char>('0' + rest % 10);
+		}
+		end += Precision;
+	}
+	return static_cast<std::size_t>(end - buffer);
+}
+
 /// `fixed` for the usual numbers; 0 for others.
 std::size_t fixed_at_once(double value, int precision, char *buffer, std::size_t size) noexcept {
 	constexpr double bound = 4503599627370496.0; // 2^52
 	constexpr std::size_t longest = 1 + 16 + 1 + 3;
 	double const magnitude = std::fabs(value);
-	if (!(magnitude < bound) || precision < 0 || precision > 3 || size < longest) {
+	bool const negative = std::signbit(value);
+	if (!(magnitude < bound) || size < longest) {
 		return 0;
 	}
-	std::uint64_t const power = small_powers[precision];
-	std::uint64_t const number = scaled(magnitude, power);
-	char *end = buffer;
-	if (std::signbit(value)) {
-		*end++ = '-';
+	switch (precision) {
+	case 0:
+		return write_fixed<0>(magnitude, negative, buffer);
+	case 1:
+		return write_fixed<1>(magnitude, negative, buffer);
+	case 2:
+		return write_fixed<2>(magnitude, negative, buffer);
+	case 3:
+		return write_fixed<3>(magnitude, negative, buffer);
+	default:
+		return 0;
 	}
-	end = write_decimal(number / power, end);
-	if (precision != 0) {
-		*end++ = '.';
-		auto rest = static_cast<std::uint32_t>(number % power);
-		for (int place = precision; place-- != 0; rest /= 10) {
-			end[place] = static_cast<char>('0' + rest % 10);
-		}
-		end += precision;
-	}
-	return static_cast<std::size_t>(end - buffer);
 }
 
 } // namespace
