@@ -15,9 +15,9 @@ namespace QUOR_2_9::generic::convert::detail {
 /// Room for every integer.
 inline constexpr std::size_t decimal_digits_size = 20;
 
-/// The digits of 00 to 99.
+/// The digits of 00 to 99; static, since the library would else export it.
 template <class Unit>
-inline constexpr auto digit_pairs = [] {
+static constexpr auto digit_pairs = [] {
 	std::array<Unit, 200> units{};
 	for (std::size_t i = 0; i != 100; ++i) {
 		units[2 * i] = static_cast<Unit>('0' + i / 10);

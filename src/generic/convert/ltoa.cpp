@@ -47,7 +47,7 @@ template <class Unit>
 [[gnu::noinline]] void write_in_radix(std::uint64_t value, Unit *buffer, unsigned int radix) noexcept {
 	if (radix < 2) {
 		*buffer = Unit();
-	} else if (std::has_single_bit(radix) && radix <= 32) {
+	} else if ((radix & (radix - 1)) == 0 && radix <= 32) {
 		write_bits(value, buffer, radix);
 	} else {
 		write_slowly(value, buffer, radix);
