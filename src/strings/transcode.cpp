@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <stdexcept>
+#include <string>
 
 #include "kernels/decode.hpp"
 #include "kernels/kernels.hpp"
@@ -23,14 +25,29 @@ constexpr std::size_t short_text = 128;
 /// The most that a unit becomes in any of the encodings.
 constexpr std::size_t longest = 4;
 
-/// How many units are made ready to be written over, in a string that has no other way to
-/// grow: few enough to stay in the nearest cache until they are.
-template <class Unit>
-constexpr std::size_t stretch = 8192 / sizeof(Unit);
-
-/// What the string grows by: these are copied faster than a fill writes wide units.
-template <class Unit>
-constexpr Unit zeros[stretch<Unit>] = {};
+/// Lets the kernel write up to `room` units behind what the result holds.
+template <class Target, class Source>
+kernels::progress append_made(Target &result, typename Source::value_type const *in, std::size_t size,
+                              kernel_of<Target, Source> kernel, std::size_t room) {
+	using unit = typename Target::value_type;
+	std::size_t const before = result.size();
+	kernels::progress made{0, 0};
+#ifdef __cpp_lib_string_resize_and_overwrite
+	result.resize_and_overwrite(before + room, [&](unit *units, std::size_t) {
+		made = kernel(in, size, units + before, room);
+		return before + made.written;
+	});
+#else
+	// What is written over is cleared first, in stretches that stay in the nearest cache
+	// until then; zeros are copied faster than a fill writes wide units.
+	static constexpr unit zeros[8192 / sizeof(unit)] = {};
+	room = std::min(room, std::size(zeros));
+	result.append(zeros, room);
+	made = kernel(in, size, result.data() + before, room);
+	result.resize(before + made.written);
+#endif
+	return made;
+}
 
 /// Appends the result of a text, for which there is room, and tells how much of the text
 /// came before malformed input.
@@ -39,15 +56,14 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	using unit = typename Target::value_type;
 	std::size_t read = 0;
 	for (kernels::progress made{1, 0}; read != text.size() && made.read != 0; read += made.read) {
-		std::size_t const before = result.size();
-		std::size_t const room = std::min(result.capacity() - before, stretch<unit>);
+		auto const *const in = text.data() + read;
+		std::size_t const size = text.size() - read;
+		std::size_t const room = result.capacity() - result.size();
 		if (room >= kernels::least_room) {
-			result.append(zeros<unit>, room);
-			made = kernel(text.data() + read, text.size() - read, result.data() + before, room);
-			result.resize(before + made.written);
+			made = append_made<Target, Source>(result, in, size, kernel, room);
 		} else {
 			unit last[kernels::least_room];
-			made = kernel(text.data() + read, text.size() - read, last, kernels::least_room);
+			made = kernel(in, size, last, kernels::least_room);
 			result.append(last, made.written);
 		}
 	}
