@@ -5,13 +5,17 @@ functions of one program, run in their order; their asserts must hold. In front 
 block a comment may say more:
 
   <!-- file: NAME -->   the block is written to NAME, which the programs find beside them
-  <!-- prints -->       the block is what the program before it prints
+  <!-- runs -->         the block is commands for a shell, run in their place; those of the command
+                        quor are passed over where it isn't built
+  <!-- prints -->       the block is what the program or the commands before it print
   <!-- same as: PATH -->  the block is the text of this file of the source tree
   <!-- not compiled --> the block is left alone
 
-usage: snippets.py COMPILER INCLUDE-DIRECTORY LIBRARY WORK-DIRECTORY FILE...
+usage: snippets.py [--package=DIRECTORY] [--command=FILE] COMPILER INCLUDE-DIRECTORY LIBRARY WORK-DIRECTORY FILE...
+--package names the CMake package and --command the command quor that shell blocks shall find.
 """
 
+import os
 import pathlib
 import re
 import subprocess
@@ -31,6 +35,8 @@ class Guide:
         self.files = []
         self.copies = []
         self.programs = []
+        self.shells = []
+        self.printing = None
         self.pieces = []
         text = path.read_text(encoding="utf-8")
         for match in BLOCK.finditer(text):
@@ -42,12 +48,16 @@ class Guide:
             self.files.append((note[len("file: "):], text))
         elif note.startswith("same as: "):
             self.copies.append((note[len("same as: "):], text))
+        elif note == "runs":
+            self.shells.append([line, text, None])
+            self.printing = self.shells[-1]
         elif note == "prints":
-            self.programs[-1][2] = text
+            self.printing[2] = text
         elif note == "not compiled" or language != "cpp":
             return
         elif "int main(" in text:
             self.programs.append([line, text, None])
+            self.printing = self.programs[-1]
         else:
             self.pieces.append((line, text))
 
@@ -78,8 +88,27 @@ def run(command, **options):
                           text=True, check=False, timeout=300, **options)
 
 
+def run_shells(guide, folder, options, compiler, library):
+    """Runs the commands of a guide; returns how many there were and how many failed."""
+    command = options.get("command")
+    environment = dict(os.environ, CXX=compiler, quor_ROOT=options.get("package", ""),
+                       LD_LIBRARY_PATH=str(library.parent), LC_ALL="C.UTF-8",
+                       PATH=(str(pathlib.Path(command).parent) + ":" if command else "") + os.environ.get("PATH", ""))
+    count = failures = 0
+    for line, text, expected in guide.shells:
+        if text.startswith("quor ") and not command:
+            continue
+        count += 1
+        done = run(["sh", "-e", "-c", text], cwd=folder, env=environment)
+        if expected is None and done.returncode != 0 or expected is not None and done.stdout != expected:
+            failures += 1
+            print(f"{guide.path} line {line} ended with {done.returncode} and printed\n{done.stdout}--- expected\n{expected}")
+    return count, failures
+
+
 def main(arguments):
-    compiler, include, library, work, *paths = arguments
+    options = dict(argument[2:].split("=", 1) for argument in arguments if argument.startswith("--"))
+    compiler, include, library, work, *paths = [argument for argument in arguments if not argument.startswith("--")]
     library = pathlib.Path(library).resolve()
     failures = programs = 0
     for path in map(pathlib.Path, paths):
@@ -108,6 +137,9 @@ def main(arguments):
             if done.returncode != 0 or (expected is not None and done.stdout != expected):
                 failures += 1
                 print(f"{path} {name} ended with {done.returncode} and printed\n{done.stdout}--- expected\n{expected}")
+        count, failed = run_shells(guide, folder, options, compiler, library)
+        programs += count
+        failures += failed
     print(f"{programs} programs, {failures} failed")
     return 1 if failures else 0
 
