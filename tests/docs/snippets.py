@@ -91,6 +91,7 @@ def run(command, **options):
 def run_shells(guide, folder, options, compiler, library):
     """Runs the commands of a guide; returns how many there were and how many failed."""
     command = options.get("command")
+    command = command if command and pathlib.Path(command).exists() else None
     environment = dict(os.environ, CXX=compiler, quor_ROOT=options.get("package", ""),
                        LD_LIBRARY_PATH=str(library.parent), LC_ALL="C.UTF-8",
                        PATH=(str(pathlib.Path(command).parent) + ":" if command else "") + os.environ.get("PATH", ""))
