@@ -11,7 +11,6 @@
 
 #include <quor/parser/xml_parser.hpp>
 #include <quor/parser/xml_token_stream.hpp>
-#include <quor/strings/ustring.hpp>
 
 namespace QUOR_2_9::parser {
 
@@ -43,7 +42,7 @@ public:
 
 	// Makes the list from a text; any other list is gone. Where the result is a fault the
 	// list holds the tokens up to it.
-	xml_parser::parse_error parse(strings::ustring8 const &text);
+	xml_parser::parse_error parse(std::string_view text);
 
 	const_iterator begin() const { return const_iterator(m_bytes.data(), m_bytes.data() + m_bytes.size()); }
 	const_iterator end() const {
@@ -54,20 +53,12 @@ public:
 	std::size_t bytes() const noexcept { return m_bytes.size(); }
 
 private:
-	void on_attribute(strings::ustring8 const &name, strings::ustring8 const &value);
-	void on_element_start(strings::ustring8 const &name);
-	void on_character(strings::ustring8 const &text);
-	void on_comment(strings::ustring8 const &text);
-	void on_element_end(strings::ustring8 const &name);
-	void on_space(strings::ustring8 const &text);
-	void close_attributes();
-	void append(token_type type, std::string_view value);
+	class recorder;
 
 	// Each token: its type in the low three bits and the size of its value above them,
 	// seven bits a byte, the lowest first and the high bit set in all but the last; then
 	// the value.
 	std::string m_bytes;
-	bool m_attributes_closed = true;
 };
 
 } // namespace QUOR_2_9::parser

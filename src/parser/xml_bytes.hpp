@@ -26,12 +26,11 @@ constexpr bool is_space(char c) {
 }
 
 // A character that can't stand here, or the end of the input in its place.
-[[noreturn]] inline void fail_at(xml_parser::const_iterator const &it, xml_parser::const_iterator const &end,
-                                 types::uint32 line) {
-	if (it == end) {
+[[noreturn]] inline void fail_at(char const *at, char const *end, types::uint32 line) {
+	if (at == end) {
 		fail(xml_parser::parse_error::error_eof, line, strings::ustring8());
 	}
-	fail(xml_parser::parse_error::error_unexpected_char, line, strings::ustring8(1, *it));
+	fail(xml_parser::parse_error::error_unexpected_char, line, strings::ustring8(1, *at));
 }
 
 } // namespace QUOR_2_9::parser::detail

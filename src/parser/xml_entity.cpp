@@ -15,16 +15,15 @@ namespace QUOR_2_9::parser::detail {
 namespace {
 
 using strings::ustring8;
-using iterator = xml_parser::const_iterator;
 using parse_error = xml_parser::parse_error;
 
 // The number is one byte, cut off at 255; without "x" its digits tell the radix.
-char read_number(iterator &it, iterator const &end, types::uint32 line) {
+char read_number(char const *&it, char const *end, types::uint32 line) {
 	bool const hex = it != end && *it == 'x';
 	if (hex) {
 		++it;
 	}
-	iterator const first = it;
+	char const *const first = it;
 	it = std::find_if_not(first, end, hex ? support::is_hex_digit<char> : support::is_digit<char>);
 	if (it == end || *it != ';') {
 		fail_at(it, end, line);
@@ -40,7 +39,7 @@ char read_number(iterator &it, iterator const &end, types::uint32 line) {
 
 // The first letter, and for "a" the second one, decide which entity it must be; a
 // difference is reported at the second letter, where `it` waits.
-char read_entity(iterator &it, iterator const &end, types::uint32 line) {
+char read_entity(char const *&it, char const *end, types::uint32 line) {
 	if (it == end || *it != '&') {
 		fail_at(it, end, line);
 	}

@@ -1,14 +1,13 @@
 #ifndef QUOR_SRC_PARSER_XML_ENTITY_HPP
 #define QUOR_SRC_PARSER_XML_ENTITY_HPP
 
-#include <quor/parser/xml_parser.hpp>
 #include <quor/types/widths.hpp>
 
 namespace QUOR_2_9::parser::detail {
 
 // Reads the entity that begins at `it`, which on return stands on its ";". Throws a
 // `parse_error` with the given line.
-char read_entity(xml_parser::const_iterator &it, xml_parser::const_iterator const &end, types::uint32 line);
+char read_entity(char const *&it, char const *end, types::uint32 line);
 
 } // namespace QUOR_2_9::parser::detail
 

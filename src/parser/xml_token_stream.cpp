@@ -1,27 +1,32 @@
 #include <quor/parser/xml_token_stream.hpp>
 
+#include <utility>
+
 #include <quor/functor/member_function.hpp>
+
+#include "parser/token_storage.hpp"
 
 namespace QUOR_2_9::parser {
 
 using strings::ustring8;
 
-xml_token_stream::xml_token_stream() {
+xml_token_stream::xml_token_stream() : m_storage(std::make_unique<storage>()) {
 	bind();
 }
 
 xml_token_stream::xml_token_stream(xml_token_stream const &other)
-    : m_attributes_closed(other.m_attributes_closed), m_tokens(other.m_tokens), m_parser(other.m_parser) {
+    : m_attributes_closed(other.m_attributes_closed), m_storage(std::make_unique<storage>(*other.m_storage)),
+      m_parser(other.m_parser) {
 	bind();
 }
 
 xml_token_stream &xml_token_stream::operator=(xml_token_stream const &other) {
 	if (this != &other) {
-		std::list<token> tokens(other.m_tokens);
+		auto copy = std::make_unique<storage>(*other.m_storage);
 		m_attributes_closed = other.m_attributes_closed;
 		m_parser = other.m_parser;
 		bind();
-		m_tokens.swap(tokens);
+		m_storage.swap(copy);
 	}
 	return *this;
 }
@@ -46,6 +51,26 @@ xml_token_stream::parse_error xml_token_stream::parse(ustring8 const &text) {
 xml_token_stream::parse_error xml_token_stream::parse(text_iterator const &begin, text_iterator const &end) {
 	m_attributes_closed = true;
 	return m_parser.parse(begin, end);
+}
+
+xml_token_stream::iterator xml_token_stream::begin() noexcept {
+	return m_storage->tokens.begin();
+}
+
+xml_token_stream::iterator xml_token_stream::end() noexcept {
+	return m_storage->tokens.end();
+}
+
+xml_token_stream::const_iterator xml_token_stream::begin() const noexcept {
+	return std::as_const(*m_storage).tokens.begin();
+}
+
+xml_token_stream::const_iterator xml_token_stream::end() const noexcept {
+	return std::as_const(*m_storage).tokens.end();
+}
+
+std::size_t xml_token_stream::size() const noexcept {
+	return m_storage->tokens.size();
 }
 
 void xml_token_stream::on_attribute(ustring8 const &name, ustring8 const &value) {
@@ -86,7 +111,7 @@ void xml_token_stream::close_attributes() {
 }
 
 void xml_token_stream::append(token::token_type type, ustring8 const &value) {
-	m_tokens.emplace_back(type, value);
+	m_storage->tokens.emplace_back(type, value);
 }
 
 } // namespace QUOR_2_9::parser

@@ -226,16 +226,7 @@ public:
 	bool is_white_space(const_iterator const &it) const;
 
 private:
-	void skip_header(const_iterator &it, const_iterator const &end) const;
-	void parse_markup(const_iterator &it, const_iterator const &end, bool &root_seen) const;
-	void parse_end_tag(const_iterator &it, const_iterator const &end) const;
-	void parse_comment(const_iterator &it, const_iterator const &end) const;
-	void parse_start_tag(const_iterator &it, const_iterator const &end, bool &root_seen) const;
-	void parse_empty_end(const_iterator &it, const_iterator const &end) const;
-	void parse_attribute(const_iterator &it, const_iterator const &end) const;
-	void parse_text(const_iterator &it, const_iterator const &end) const;
-	void count_whitespace(const_iterator &it, const_iterator const &end) const;
-	bool at_comment(const_iterator const &it, const_iterator const &end) const;
+	class reading;
 
 	text_delegate m_element_start;
 	text_delegate m_element_end;
@@ -244,7 +235,9 @@ private:
 	text_delegate m_space;
 	text_delegate m_comment;
 	mutable std::deque<strings::ustring8> m_elements;
-	mutable std::set<strings::ustring8> m_attributes;
+	// The names in the current tag: in a row while they are few, in the set otherwise.
+	mutable std::string m_attributes;
+	mutable std::set<strings::ustring8> m_more_attributes;
 	mutable bool m_in_tag = false;
 	mutable types::uint32 m_line = 0;
 };

@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <list>
+#include <memory>
 
 #include <quor/export.hpp>
 #include <quor/parser/xml_parser.hpp>
@@ -33,7 +34,8 @@ namespace QUOR_2_9::parser {
 /// A value: copies are deep, and a copy parses into itself. Thread-safety: one object
 /// serves one parse at a time; many readers while nobody parses.
 /// Untrusted input: safe; linear in the text. A token is a list node with a string,
-/// so a text of short tags takes some fifty times its size.
+/// so a text of short tags takes some fifty times its size. The memory of all nodes is
+/// freed together, with the object.
 /// @since 2.9
 class QUOR_API xml_token_stream {
 public:
@@ -117,23 +119,23 @@ public:
 
 	/// The first token.
 	/// @since 2.9
-	iterator begin() noexcept { return m_tokens.begin(); }
+	iterator begin() noexcept;
 
 	/// Behind the last token.
 	/// @since 2.9
-	iterator end() noexcept { return m_tokens.end(); }
+	iterator end() noexcept;
 
 	/// The first token.
 	/// @since 2.9
-	const_iterator begin() const noexcept { return m_tokens.begin(); }
+	const_iterator begin() const noexcept;
 
 	/// Behind the last token.
 	/// @since 2.9
-	const_iterator end() const noexcept { return m_tokens.end(); }
+	const_iterator end() const noexcept;
 
 	/// The number of tokens, the attributes-end tokens included.
 	/// @since 2.9
-	std::size_t size() const noexcept { return m_tokens.size(); }
+	std::size_t size() const noexcept;
 
 protected:
 	/// Appends an attribute's name and value.
@@ -150,12 +152,14 @@ protected:
 	void on_space(strings::ustring8 const &text);
 
 private:
+	class storage;
+
 	void bind();
 	void close_attributes();
 	void append(token::token_type type, strings::ustring8 const &value);
 
 	bool m_attributes_closed = true;
-	std::list<token> m_tokens;
+	std::unique_ptr<storage> m_storage;
 	xml_parser m_parser;
 };
 

@@ -1,0 +1,155 @@
+#ifndef QUOR_SRC_PARSER_XML_SCAN_HPP
+#define QUOR_SRC_PARSER_XML_SCAN_HPP
+
+// Steps over the bytes of a name, a text or a value up to the one that ends it, eight at a
+// time where there are as many.
+
+#include <array>
+#include <bit>
+#include <climits>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include <quor/types/widths.hpp>
+
+#include "parser/xml_bytes.hpp"
+
+namespace QUOR_2_9::parser::detail {
+
+// What a byte can be to the reader; a bit each.
+enum byte_class : unsigned char { name_byte = 1, space_byte = 2, letter_byte = 4 };
+
+inline constexpr std::array<unsigned char, UCHAR_MAX + 1> byte_classes = [] {
+	std::array<unsigned char, UCHAR_MAX + 1> classes = {};
+	for (std::size_t i = 0; i != classes.size(); ++i) {
+		char const c = static_cast<char>(static_cast<unsigned char>(i));
+		classes[i] =
+		    static_cast<unsigned char>((is_name_character(c) ? name_byte : 0) | (is_space(c) ? space_byte : 0) |
+		                               (support::is_letter(c) ? letter_byte : 0));
+	}
+	return classes;
+}();
+
+inline bool is_of(char c, byte_class wanted) noexcept {
+	return (byte_classes[static_cast<unsigned char>(c)] & wanted) != 0;
+}
+
+// Eight bytes, the first one lowest. In a mask the high bit of a byte tells of it, reliably
+// up to the lowest one that is set.
+using word = std::uint64_t;
+
+constexpr word all_bytes(unsigned char value) noexcept {
+	return word(0x0101010101010101) * value;
+}
+
+constexpr word high_bits = all_bytes(0x80);
+
+inline word load(char const *at) noexcept {
+	word bytes;
+	std::memcpy(&bytes, at, sizeof bytes);
+	return bytes;
+}
+
+constexpr word equal_to(word bytes, char c) noexcept {
+	word const zero_where_equal = bytes ^ all_bytes(static_cast<unsigned char>(c));
+	return (zero_where_equal - all_bytes(1)) & ~zero_where_equal & high_bits;
+}
+
+// Bytes up to the blank, the control characters among them. Reliable for each byte.
+constexpr word up_to_blank(word bytes) noexcept {
+	return ~(((bytes & ~high_bits) + all_bytes(0x7F - ' ')) | bytes) & high_bits;
+}
+
+inline std::size_t lowest(word mask) noexcept {
+	return static_cast<std::size_t>(std::countr_zero(mask)) / CHAR_BIT;
+}
+
+inline constexpr bool words_help = std::endian::native == std::endian::little;
+
+inline char const *end_of_name(char const *at, char const *end) noexcept {
+	while (at != end && is_of(*at, name_byte)) {
+		++at;
+	}
+	return at;
+}
+
+// Steps over white space and counts its line feeds.
+inline char const *end_of_space(char const *at, char const *end, types::uint32 &line) noexcept {
+	while (at != end && is_of(*at, space_byte)) {
+		line += *at == '\n' ? 1U : 0U;
+		++at;
+	}
+	return at;
+}
+
+inline bool ends_text(char const *at, char const *end) noexcept {
+	return *at == '<' || *at == '&' || (is_space(*at) && end - at > 1 && is_space(at[1]));
+}
+
+// The first "<", "&" or white space in front of other white space, or the end.
+inline char const *end_of_text(char const *at, char const *end) noexcept {
+	if constexpr (words_help) {
+		while (end - at >= std::ptrdiff_t(sizeof(word))) {
+			word const bytes = load(at);
+			word const blanks = up_to_blank(bytes);
+			word const found = equal_to(bytes, '<') | equal_to(bytes, '&') | (blanks & (blanks >> CHAR_BIT));
+			if (found == 0) {
+				// The last byte may be the first of two.
+				at += sizeof(word) - 1;
+				continue;
+			}
+			at += lowest(found);
+			if (ends_text(at, end)) {
+				return at;
+			}
+			++at;
+		}
+	}
+	while (at != end && !ends_text(at, end)) {
+		++at;
+	}
+	return at;
+}
+
+inline bool ends_value(char c, char quote) noexcept {
+	return c == quote || c == '<' || c == '&';
+}
+
+// The first quote of this kind, "<" or "&", or the end.
+inline char const *end_of_value(char const *at, char const *end, char quote) noexcept {
+	if constexpr (words_help) {
+		while (end - at >= std::ptrdiff_t(sizeof(word))) {
+			word const bytes = load(at);
+			word const found = equal_to(bytes, quote) | equal_to(bytes, '<') | equal_to(bytes, '&');
+			if (found != 0) {
+				return at + lowest(found);
+			}
+			at += sizeof(word);
+		}
+	}
+	while (at != end && !ends_value(*at, quote)) {
+		++at;
+	}
+	return at;
+}
+
+// The first "-->", or the end.
+inline char const *end_of_comment(char const *at, char const *end) noexcept {
+	for (char const *from = at; end - from > 2;) {
+		auto const *const close =
+		    static_cast<char const *>(std::memchr(from + 2, '>', static_cast<std::size_t>(end - from - 2)));
+		if (close == nullptr) {
+			break;
+		}
+		if (close[-1] == '-' && close[-2] == '-') {
+			return close - 2;
+		}
+		from = close - 1;
+	}
+	return end;
+}
+
+} // namespace QUOR_2_9::parser::detail
+
+#endif
