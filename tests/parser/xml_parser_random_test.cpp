@@ -79,6 +79,30 @@ TEST(xml_parser_random, parse_every_cut_of_a_document_agrees_with_reference) {
 	}
 }
 
+// The names of a tag are kept in one way while they are few and short, in another beyond.
+TEST(xml_parser_random, parse_tags_with_any_number_of_attributes_agrees_with_reference) {
+	for (std::size_t const longest : {1U, 9U, 60U, 300U}) {
+		std::vector<std::string> names;
+		std::string tag = "<?xml?><a";
+		for (std::size_t i = 0; i != 70; ++i) {
+			names.push_back(std::string("n").append(std::to_string(i)).append(i % longest, 'x'));
+			auto const behind = [](std::string text, std::string const &name, char const *end) {
+				return text.append(" ").append(name).append("='1'").append(end);
+			};
+			tag = behind(tag, names.back(), "");
+			compare(std::string(tag).append("/>"));
+			for (std::size_t const again : {std::size_t(0), i / 2, i}) {
+				compare(behind(tag, names[again], "/>"));
+				compare(behind(std::string(tag).append("></a"), names[again], ">"));
+				compare(behind(std::string(tag).append("><b"), names[again], "/></a>"));
+			}
+		}
+		if (HasFailure()) {
+			return;
+		}
+	}
+}
+
 // Every text of up to four of these pieces behind a header.
 TEST(xml_parser_random, parse_all_short_texts_agrees_with_reference) {
 	std::vector<std::string> const pieces = {"<", ">", "/", "a", "=", "'", "&", " ", "!", "-", ";", "\n", "#"};
