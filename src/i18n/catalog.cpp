@@ -1,10 +1,12 @@
 #include <quor/i18n/catalog.hpp>
 
 #include <functional>
+#include <utility>
 
 #include <quor/strings/transcode.hpp>
 
 #include "i18n/language_id.hpp"
+#include "i18n/message_storage.hpp"
 #include "support/early_init.hpp"
 
 namespace QUOR_2_9::i18n {
@@ -29,18 +31,18 @@ std::size_t hash_of(std::string_view key) noexcept {
 
 QUOR_EARLY_INIT message_t const catalog_t::m_nil_message;
 
-catalog_t::catalog_t() = default;
+catalog_t::catalog_t() : m_storage(std::make_unique<storage>()) {}
 
 catalog_t::catalog_t(ustring8 const &name, std::vector<ustring8> const & /*languages*/,
                      std::map<ustring8, message_t> const &messages)
-    : m_name(name), m_messages(messages) {
-	reserve_index(m_messages.size());
+    : m_name(name), m_storage(std::make_unique<storage>(messages)) {
+	reserve_index(size());
 }
 
 catalog_t::catalog_t(catalog_t const &other)
     : reference_count_pointer_ability(), m_name(other.m_name), m_languages(other.m_languages),
-      m_messages(other.m_messages) {
-	reserve_index(m_messages.size());
+      m_storage(std::make_unique<storage>(*other.m_storage)) {
+	reserve_index(size());
 }
 
 catalog_t::~catalog_t() = default;
@@ -50,7 +52,7 @@ catalog_t &catalog_t::assign(catalog_t const &other) {
 		catalog_t copy(other);
 		m_name.swap(copy.m_name);
 		m_languages.swap(copy.m_languages);
-		m_messages.swap(copy.m_messages);
+		m_storage.swap(copy.m_storage);
 		m_index.swap(copy.m_index);
 		m_index_is_whole = copy.m_index_is_whole;
 	}
@@ -62,11 +64,12 @@ catalog_t &catalog_t::operator=(catalog_t const &other) {
 }
 
 catalog_t &catalog_t::assign(types::nil_t const & /*nil*/) {
-	m_name.clear();
-	m_languages.clear();
+	auto empty = std::make_unique<storage>();
 	m_index.clear();
 	m_index_is_whole = true;
-	m_messages.clear();
+	m_storage.swap(empty);
+	m_name.clear();
+	m_languages.clear();
 	return *this;
 }
 
@@ -75,7 +78,7 @@ catalog_t &catalog_t::operator=(types::nil_t const &nil) {
 }
 
 bool catalog_t::equal(types::nil_t const & /*nil*/) const {
-	return m_name.empty() && m_messages.empty() && m_languages.empty();
+	return m_name.empty() && m_storage->messages.empty() && m_languages.empty();
 }
 
 bool catalog_t::operator==(types::nil_t const &nil) const {
@@ -121,8 +124,8 @@ message_t const &catalog_t::message(ustring32 const &key) const {
 
 message_t const &catalog_t::message(ustring8 const &key, message_t const &value) {
 	// First, as it may fail for want of memory.
-	reserve_index(m_messages.size() + 1);
-	auto const [stored, is_new] = m_messages.insert_or_assign(key, value);
+	reserve_index(size() + 1);
+	auto const [stored, is_new] = m_storage->messages.insert_or_assign(key, value);
 	if (is_new) {
 		add_to_index(*stored);
 	}
@@ -138,7 +141,7 @@ message_t const *catalog_t::find(std::string_view key) const {
 	std::size_t const mask = m_index.size() - 1;
 	std::size_t const first = hash_of(key);
 	for (std::size_t i = 0; i != most_probes; ++i) {
-		message_map::value_type const *const entry = m_index[(first + i) & mask];
+		element const *const entry = m_index[(first + i) & mask];
 		if (entry == nullptr) {
 			break;
 		}
@@ -149,8 +152,8 @@ message_t const *catalog_t::find(std::string_view key) const {
 	if (m_index_is_whole) {
 		return nullptr;
 	}
-	auto const found = m_messages.find(ustring8(key));
-	return found != m_messages.end() ? &found->second : nullptr;
+	auto const found = std::as_const(*m_storage).messages.find(ustring8(key));
+	return found != end() ? &found->second : nullptr;
 }
 
 /// Makes room for so many messages, with all present ones in their places.
@@ -162,18 +165,18 @@ void catalog_t::reserve_index(std::size_t count) {
 	while (size < 2 * count) {
 		size *= 2;
 	}
-	m_index = std::vector<message_map::value_type const *>(size);
+	m_index = std::vector<element const *>(size);
 	m_index_is_whole = true;
-	for (auto const &entry : m_messages) {
+	for (auto const &entry : *this) {
 		add_to_index(entry);
 	}
 }
 
-void catalog_t::add_to_index(message_map::value_type const &entry) noexcept {
+void catalog_t::add_to_index(element const &entry) noexcept {
 	std::size_t const mask = m_index.size() - 1;
 	std::size_t const first = hash_of(entry.first);
 	for (std::size_t i = 0; i != most_probes; ++i) {
-		message_map::value_type const *&place = m_index[(first + i) & mask];
+		element const *&place = m_index[(first + i) & mask];
 		if (place == nullptr) {
 			place = &entry;
 			return;
@@ -182,8 +185,20 @@ void catalog_t::add_to_index(message_map::value_type const &entry) noexcept {
 	m_index_is_whole = false;
 }
 
+std::size_t catalog_t::size() const noexcept {
+	return m_storage->messages.size();
+}
+
+catalog_t::const_iterator catalog_t::begin() const noexcept {
+	return std::as_const(*m_storage).messages.begin();
+}
+
+catalog_t::const_iterator catalog_t::end() const noexcept {
+	return std::as_const(*m_storage).messages.end();
+}
+
 void catalog_t::gen_lang_set() const {
-	for (auto const &entry : m_messages) {
+	for (auto const &entry : *this) {
 		m_languages.insert(entry.second._orginal_locale());
 	}
 }

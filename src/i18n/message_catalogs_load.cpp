@@ -9,6 +9,7 @@
 #include <quor/system/io.hpp>
 
 #include "i18n/utf8_text.hpp"
+#include "i18n/xmc_merging.hpp"
 #include "support/ascii.hpp"
 #include "system/examine.hpp"
 
@@ -57,7 +58,7 @@ message_catalogs::result_type message_catalogs::load_one_file(ustring8 const &fi
 	_private::xmc_file_loader loader;
 	auto const error = loader.parse(file, wanted.language, wanted.catalog);
 	if (error.type() == _private::xmc_file_loader::load_none) {
-		loader.combine_data(m_catalogs);
+		_private::xmc_file_loader::merging::move(loader, m_catalogs);
 	}
 	return error;
 }

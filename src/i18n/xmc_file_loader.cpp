@@ -7,6 +7,7 @@
 #include <quor/system/file.hpp>
 #include <quor/system/io.hpp>
 
+#include "i18n/message_storage.hpp"
 #include "parser/compact_token_list.hpp"
 
 namespace QUOR_2_9::i18n::_private {
@@ -153,11 +154,10 @@ load_error xmc_file_loader::parse_file(ustring8 const &file) {
 	parser::compact_token_list tokens;
 	parser::xml_parser::parse_error error;
 	{
-		// What can't be read counts as empty.
+		// What can't be read counts as empty. The string's own zero is the one behind it.
 		ustring8 content;
 		system::load_file(file, content);
-		content.push_back('\0');
-		error = tokens.parse(content);
+		error = tokens.parse({content.c_str(), content.size() + 1});
 	}
 	std::size_t const separator = file.find_last_of("\\/");
 	m_include_base = separator == ustring8::npos ? ustring8("./") : ustring8(file, 0, separator + 1);
@@ -191,39 +191,21 @@ void xmc_file_loader::include_file(ustring8 const &path) {
 }
 
 void xmc_file_loader::set_message(message_t const &message, ustring8 const &catalog) {
-	store_message(message, m_catalogs[catalog], get_locale_weight(message._orginal_locale()));
+	store_message(message_t(message), m_catalogs[catalog], get_locale_weight(message._orginal_locale()));
 }
 
-void xmc_file_loader::store_message(message_t const &message, catalog_t &catalog, types::uint32 weight) const {
-	if (catalog.has_message(message.name()) &&
-	    get_locale_weight(std::as_const(catalog).message(message.name())._orginal_locale()) >= weight) {
+void xmc_file_loader::store_message(message_t &&message, catalog_t &catalog, types::uint32 weight) const {
+	// The catalogs of a loader are without an index until their messages go over to others.
+	auto &messages = catalog.m_storage->messages;
+	auto const place = messages.lower_bound(message.m_name);
+	if (place == messages.end() || place->first != message.m_name) {
+		messages.emplace_hint(place, message.m_name, std::move(message));
+	} else if (get_locale_weight(place->second.m_orginal_locale) < weight) {
+		place->second = std::move(message);
+	} else {
 		return;
 	}
-	catalog.message(message.name(), message);
-}
-
-types::uint32 xmc_file_loader::combine_data(catalog_map &target) {
-	types::uint32 stored = 0;
-	for (auto const &[name, loaded] : m_catalogs) {
-		auto entry = target.find(name);
-		if (entry == target.end()) {
-			entry =
-			    target.emplace(name, catalog_map::mapped_type(generic::abilities::create_dynamic<catalog_t>())).first;
-		}
-		if (!entry->second) {
-			throw "unreferanced object";
-		}
-		catalog_t &catalog = *entry->second;
-		catalog._name(name);
-		for (auto const &[key, message] : loaded) {
-			if (!catalog.has_message(key) || get_locale_weight(std::as_const(catalog).message(key)._orginal_locale()) <=
-			                                     get_locale_weight(message._orginal_locale())) {
-				catalog.message(key, message);
-				++stored;
-			}
-		}
-	}
-	return stored;
+	catalog.m_languages.clear();
 }
 
 types::uint32 xmc_file_loader::get_locale_weight(ustring8 const &language) const {

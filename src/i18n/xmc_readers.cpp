@@ -1,5 +1,6 @@
 #include <quor/i18n/xmc_file_loader.hpp>
 
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -69,10 +70,10 @@ bool at_attribute(Iterator &it, Iterator const &end, xmc_file_loader::error_type
 	return it->type() == token::token_attribute_name;
 }
 
-void add_literal(std::vector<message_item> &items, ustring8 &buffer) {
-	if (!buffer.empty()) {
-		items.emplace_back(buffer);
-		buffer.clear();
+void add_literal(std::vector<message_item> &items, ustring8 &literal) {
+	if (!literal.empty()) {
+		items.emplace_back(literal);
+		literal.clear();
 	}
 }
 
@@ -223,8 +224,8 @@ void xmc_file_loader::read_catalog(Iterator &it, Iterator const &end, ustring8 &
 		}
 		while (is(it, end, token::token_element_start, "msg")) {
 			message_t message = parse_message(it, end);
-			message._orginal_locale(lang);
-			store_message(message, catalog, weight);
+			message.m_orginal_locale = lang;
+			store_message(std::move(message), catalog, weight);
 			parse_ignorable(it, end);
 		}
 	}
@@ -262,32 +263,36 @@ message_t xmc_file_loader::read_message(Iterator &it, Iterator const &end, ustri
 		}
 	}
 	++it;
-	std::vector<message_item> items;
-	ustring8 buffer;
+	m_items.clear();
+	m_literal.clear();
 	bool behind_argument = false;
 	while (it != end) {
 		// The word alone ends the message, whatever kind of token it is.
 		if (it->type() == token::token_element_end || value_of(it) == "msg") {
-			add_literal(items, buffer);
+			add_literal(m_items, m_literal);
 			++it;
-			return message_t(name, items, meta);
+			message_t message;
+			message.m_items.assign(std::make_move_iterator(m_items.begin()), std::make_move_iterator(m_items.end()));
+			message.m_name = std::move(name);
+			message.m_meta = std::move(meta);
+			return message;
 		}
 		if (it->type() == token::token_space) {
-			add_space(buffer, behind_argument);
+			add_space(m_literal, behind_argument);
 			behind_argument = false;
 			++it;
 		} else if (it->type() == token::token_character) {
-			buffer.append(value_of(it));
+			m_literal.append(value_of(it));
 			behind_argument = false;
 			++it;
 		} else if (it->type() != token::token_element_start) {
 			++it;
 		} else if (value_of(it) == "br") {
-			buffer.push_back('\n');
+			m_literal.push_back('\n');
 			skip_br(it, end);
 		} else if (is_argument_name(it)) {
-			add_literal(items, buffer);
-			items.push_back(parse_message_arg(it, end));
+			add_literal(m_items, m_literal);
+			m_items.push_back(parse_message_arg(it, end));
 			behind_argument = true;
 		} else {
 			throw load_error(load_invalid_element, text_of(it, end));

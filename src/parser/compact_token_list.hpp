@@ -6,7 +6,7 @@
 // text, where a list node takes 64: large catalog files are read through this.
 
 #include <cstddef>
-#include <string>
+#include <memory>
 #include <string_view>
 
 #include <quor/parser/xml_parser.hpp>
@@ -27,7 +27,22 @@ public:
 		std::string_view value() const noexcept { return m_value; }
 		const_iterator const *operator->() const noexcept { return this; }
 
-		const_iterator &operator++() noexcept;
+		const_iterator &operator++() noexcept {
+			m_at = m_next;
+			if (m_at == m_end) {
+				return *this;
+			}
+			auto byte = static_cast<unsigned char>(*m_next++);
+			m_type = static_cast<token_type>(byte & 7U);
+			std::size_t size = (byte & 0x7FU) >> 3U;
+			for (unsigned int shift = 4; (byte & 0x80U) != 0; shift += 7) {
+				byte = static_cast<unsigned char>(*m_next++);
+				size |= static_cast<std::size_t>(byte & 0x7FU) << shift;
+			}
+			m_value = std::string_view(m_next, size);
+			m_next += size;
+			return *this;
+		}
 
 		bool operator==(const_iterator const &other) const noexcept { return m_at == other.m_at; }
 		bool operator!=(const_iterator const &other) const noexcept { return m_at != other.m_at; }
@@ -44,21 +59,27 @@ public:
 	// list holds the tokens up to it.
 	xml_parser::parse_error parse(std::string_view text);
 
-	const_iterator begin() const { return const_iterator(m_bytes.data(), m_bytes.data() + m_bytes.size()); }
-	const_iterator end() const {
-		char const *const last = m_bytes.data() + m_bytes.size();
-		return const_iterator(last, last);
-	}
+	const_iterator begin() const { return const_iterator(m_bytes.get(), m_bytes.get() + m_size); }
+	const_iterator end() const { return const_iterator(m_bytes.get() + m_size, m_bytes.get() + m_size); }
 
-	std::size_t bytes() const noexcept { return m_bytes.size(); }
+	std::size_t bytes() const noexcept { return m_size; }
 
 private:
 	class recorder;
 
+	void make_room(std::size_t bytes) {
+		if (m_capacity - m_size < bytes) {
+			grow(bytes);
+		}
+	}
+	void grow(std::size_t wanted);
+
 	// Each token: its type in the low three bits and the size of its value above them,
 	// seven bits a byte, the lowest first and the high bit set in all but the last; then
 	// the value.
-	std::string m_bytes;
+	std::unique_ptr<char[]> m_bytes;
+	std::size_t m_size = 0;
+	std::size_t m_capacity = 0;
 };
 
 } // namespace QUOR_2_9::parser

@@ -1,15 +1,9 @@
 #ifndef QUOR_SRC_PARSER_XML_READER_HPP
 #define QUOR_SRC_PARSER_XML_READER_HPP
 
-// The dialect's one reader, for the event parser and for the lists of tokens. It hands its
-// events to an object of any class with these members; the views last as long as the call:
-//
-//     void element_start(std::string_view name);
-//     void element_end(std::string_view name);
-//     void attribute(std::string_view name, std::string_view value);
-//     void character(std::string_view text);
-//     void space(std::string_view run);
-//     void comment(std::string_view body);
+// The dialect's one reader. It hands its events to an object of any class with the members
+// element_start(name), element_end(name), attribute(name, value), character(text), space(run)
+// and comment(body); they get views, which last as long as the call.
 
 #include <algorithm>
 #include <cstddef>

@@ -24,7 +24,8 @@ quor_tidy_packages=(clang-tidy-14)
 quor_bench_packages=(libbenchmark-dev python3)
 quor_bench_peer_packages=(libglib2.0-dev libboost-dev libboost-program-options-dev libboost-serialization-dev
 	libcereal-dev libicu-dev qtbase5-dev libexpat1-dev libxml2-dev
-	libfmt-dev libboost-locale-dev)
+	libfmt-dev libboost-locale-dev
+	libpugixml-dev)
 quor_docs_packages=(doxygen doxygen-awesome-css graphviz linkchecker python3 git)
 quor_valgrind_packages=(valgrind)
 

@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <set>
 #include <vector>
 
@@ -154,30 +155,32 @@ public:
 
 	/// The number of messages.
 	/// @since 2.9
-	std::size_t size() const noexcept { return m_messages.size(); }
+	std::size_t size() const noexcept;
 
 	/// The first message.
 	/// @since 2.9
-	const_iterator begin() const noexcept { return m_messages.begin(); }
+	const_iterator begin() const noexcept;
 
 	/// Behind the last message.
 	/// @since 2.9
-	const_iterator end() const noexcept { return m_messages.end(); }
+	const_iterator end() const noexcept;
 
 private:
 	friend class message_catalogs;
+	friend class _private::xmc_file_loader;
 
-	using message_map = std::map<strings::ustring8, message_t>;
+	class storage;
+	using element = std::pair<strings::ustring8 const, message_t>;
 
 	message_t const *find(std::string_view key) const;
 	void reserve_index(std::size_t count);
-	void add_to_index(message_map::value_type const &entry) noexcept;
+	void add_to_index(element const &entry) noexcept;
 
 	strings::ustring8 m_name;
 	mutable std::set<strings::ustring8> m_languages;
-	message_map m_messages;
+	std::unique_ptr<storage> m_storage;
 	// The messages by the hash of their names: a power of two of places, at most half of them taken.
-	std::vector<message_map::value_type const *> m_index;
+	std::vector<element const *> m_index;
 	bool m_index_is_whole = true;
 };
 

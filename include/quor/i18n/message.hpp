@@ -189,6 +189,8 @@ public:
 	types::wide_string as_ustring(generic::varg_list const &args) const;
 
 private:
+	friend class _private::xmc_file_loader;
+
 	std::vector<message_item> m_items;
 	strings::ustring8 m_orginal_locale;
 	strings::ustring8 m_name;

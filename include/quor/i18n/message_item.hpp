@@ -23,6 +23,11 @@
 
 namespace QUOR_2_9::i18n {
 
+class message_catalogs;
+namespace _private {
+class xmc_file_loader;
+} // namespace _private
+
 /// One piece of a message.
 ///
 /// Holds a text and a type. For a literal piece the text is what is shown. For an

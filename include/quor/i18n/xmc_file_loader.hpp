@@ -151,11 +151,9 @@ public:
 	/// @throws std::bad_alloc, std::length_error where a file doesn't fit into memory.
 	/// @since 2.9
 	load_error parse(strings::ustring8 const &file);
-	/// The same, for a requested language too.
-	/// @since 2.9
+	/// The same, for a requested language too. @since 2.9
 	load_error parse(strings::ustring8 const &file, strings::ustring8 const &language);
-	/// The same, for the catalogs of one name only (an empty name: all).
-	/// @since 2.9
+	/// The same, for the catalogs of one name only (an empty name: all). @since 2.9
 	load_error parse(strings::ustring8 const &file, strings::ustring8 const &language,
 	                 strings::ustring8 const &catalog);
 	/// The same for UTF-16 paths. @since 2.9
@@ -205,8 +203,7 @@ public:
 	/// @since 2.9
 	bool is_cat_id_set() const noexcept;
 
-	/// Whether a catalog of this name is wanted.
-	/// @since 2.9
+	/// Whether a catalog of this name is wanted. @since 2.9
 	bool is_catalog_matched(strings::ustring8 const &name) const noexcept;
 
 	/// Adds ".", "en", and an id with all its beginnings to the accepted languages.
@@ -215,8 +212,7 @@ public:
 	/// @since 2.9
 	void handle_language(strings::ustring8 const &language);
 
-	/// Does nothing.
-	/// @since 2.9
+	/// Does nothing. @since 2.9
 	void reset();
 
 protected:
@@ -262,15 +258,17 @@ protected:
 	void set_message(message_t const &message, strings::ustring8 const &catalog);
 
 private:
-	// A requested language: the normalised id, and the place of its first beginning
-	// among the accepted languages. The beginnings themselves are not stored, as an id
-	// of many separators would take quadratic memory.
+	friend class i18n::message_catalogs;
+
+	// The normalised id, and the place of its first beginning among the accepted languages.
+	// Not the beginnings: an id of many separators would take quadratic memory.
 	struct requested_language {
 		strings::ustring8 id;
 		types::uint32 first;
 	};
 
 	class include_level;
+	class merging;
 
 	template <class Tokens>
 	load_error read_tokens(Tokens const &tokens, parser::xml_parser::parse_error const &error,
@@ -284,10 +282,12 @@ private:
 
 	void start_reading();
 	void include_file(strings::ustring8 const &path);
-	void store_message(message_t const &message, catalog_t &catalog, types::uint32 weight) const;
+	void store_message(message_t &&message, catalog_t &catalog, types::uint32 weight) const;
 
 	std::vector<requested_language> m_languages;
 	std::map<strings::ustring8, catalog_t> m_catalogs;
+	std::vector<message_item> m_items; // of the message that is being read
+	strings::ustring8 m_literal;       // what stands behind these
 	strings::ustring8 m_include_base;
 	strings::ustring8 m_catalog_filter;
 	types::uint32 m_language_count = 0;

@@ -1,0 +1,24 @@
+#ifndef QUOR_SRC_I18N_XMC_MERGING_HPP
+#define QUOR_SRC_I18N_XMC_MERGING_HPP
+
+#include <quor/i18n/xmc_file_loader.hpp>
+
+namespace QUOR_2_9::i18n::_private {
+
+// Puts what a loader has read into a map of catalogs, as `combine_data` is told to.
+class xmc_file_loader::merging {
+public:
+	// The loader keeps what it has read.
+	static types::uint32 copy(xmc_file_loader const &from, catalog_map &to);
+	// The messages go over as they are; those that the map doesn't take are of no use any more.
+	static types::uint32 move(xmc_file_loader &from, catalog_map &to);
+
+private:
+	static catalog_t &catalog_of(catalog_map &map, strings::ustring8 const &name);
+	static types::uint32 copy_messages(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to);
+	static types::uint32 move_messages(xmc_file_loader const &loader, catalog_t &from, catalog_t &to);
+};
+
+} // namespace QUOR_2_9::i18n::_private
+
+#endif
