@@ -1,6 +1,8 @@
 #ifndef QUOR_KERNELS_VECTOR_WRITE_UTF8_HPP
 #define QUOR_KERNELS_VECTOR_WRITE_UTF8_HPP
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -53,7 +55,7 @@ QUOR_VECTOR_PART char *put_up_to_three(char *out, __m128i points) noexcept {
 	return put_pack(out, _mm_unpackhi_epi16(ends, first), packs.of_three[(forms >> 4 & 0x0F) | (forms >> 8 & 0xF0)]);
 }
 
-// The next 8 units, and what is set where they aren't code points below 0x10000.
+// The next 8 units, and lanes that aren't zero where they aren't code points below 0x10000.
 
 QUOR_VECTOR_PART __m128i next_points(types::wide_char const *in, __m128i &points) noexcept {
 	points = load(in);
@@ -64,7 +66,7 @@ QUOR_VECTOR_PART __m128i next_points(types::utf32_char const *in, __m128i &point
 	__m128i const low = load(in);
 	__m128i const high = load(in + 4);
 	points = _mm_packus_epi32(low, high);
-	__m128i const beyond = _mm_and_si128(_mm_or_si128(low, high), _mm_set1_epi32(static_cast<int>(0xFFFF0000)));
+	__m128i const beyond = _mm_packus_epi32(_mm_srli_epi32(low, 16), _mm_srli_epi32(high, 16));
 	return _mm_or_si128(surrogates(points), beyond);
 }
 
@@ -105,11 +107,30 @@ QUOR_VECTOR_PART bool write_group(course<In, char> &at) noexcept {
 	return true;
 }
 
-/// Eight units, or one where there is one among them that needs a look of its own.
+/// The first lanes of a vector, as many as are loaded in front of the middle.
+inline constexpr std::int16_t first_lanes[16] = {-1, -1, -1, -1, -1, -1, -1, -1};
+
+/// Writes the first of 8 code points below 0x10000: zeros take the place of the others, each
+/// of which makes one byte that is dropped again.
+QUOR_VECTOR_PART char *put_first(char *out, __m128i points, std::size_t count) noexcept {
+	return put_up_to_three(out, _mm_and_si128(points, load(first_lanes + 8 - count))) - (8 - count);
+}
+
+/// How many lanes there are in front of the first that isn't zero.
+QUOR_VECTOR_PART std::size_t lanes_before(__m128i other) noexcept {
+	auto const zeros = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi16(other, _mm_setzero_si128())));
+	return static_cast<std::size_t>(std::countr_one(zeros)) / 2;
+}
+
+/// Eight units, or those up to the first that needs a look of its own, and that one.
 template <class In>
 QUOR_VECTOR_PART bool write_eight(course<In, char> &at) noexcept {
 	__m128i points;
-	if (any(next_points(at.in, points))) {
+	__m128i const other = next_points(at.in, points);
+	if (any(other)) {
+		std::size_t const count = lanes_before(other);
+		at.out = put_first(at.out, points, count);
+		at.in += count;
 		return step(at);
 	}
 	at.out = put_up_to_three(at.out, points);
@@ -117,20 +138,35 @@ QUOR_VECTOR_PART bool write_eight(course<In, char> &at) noexcept {
 	return true;
 }
 
-/// Fewer than eight units are taken for a text that goes on with zeros, each of which
-/// makes one byte that is dropped again.
+/// Moves a vector down by as many bytes as lie in front of what is loaded from here.
+inline constexpr std::uint8_t slide[32] = {0,    1,    2,    3,    4,    5,    6,    7,    8,    9,    10,
+                                           11,   12,   13,   14,   15,   0x80, 0x80, 0x80, 0x80, 0x80, 0x80,
+                                           0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80};
+
+/// The last units of the text, fewer than eight, and zeros behind them.
+template <class In>
+QUOR_VECTOR_PART __m128i last_points(course<In, char> const &at, __m128i &points) noexcept {
+	if constexpr (sizeof(In) == 2) {
+		if (at.end - at.begin >= 8) {
+			points = _mm_shuffle_epi8(load(at.end - 8), load(slide + sizeof(In) * (8 - at.left())));
+			return surrogates(points);
+		}
+	}
+	In rest[8] = {};
+	std::memcpy(rest, at.in, at.left() * sizeof(In));
+	return next_points(rest, points);
+}
+
+/// The same for fewer than eight units.
 template <class In>
 QUOR_VECTOR_PART bool write_rest(course<In, char> &at) noexcept {
-	In rest[8] = {};
-	std::size_t const size = at.left();
-	std::memcpy(rest, at.in, size * sizeof(In));
 	__m128i points;
-	if (any(next_points(rest, points))) {
-		return step(at);
-	}
-	at.out = put_up_to_three(at.out, points) - (8 - size);
-	at.in = at.end;
-	return true;
+	__m128i const other = last_points(at, points);
+	std::size_t const count = std::min(at.left(), lanes_before(other));
+	bool const all = count == at.left();
+	at.out = put_first(at.out, points, count);
+	at.in += count;
+	return all || step(at);
 }
 
 template <class In>

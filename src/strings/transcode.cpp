@@ -5,6 +5,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "kernels/decode.hpp"
 #include "kernels/kernels.hpp"
@@ -70,20 +71,32 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	return read;
 }
 
+/// A result, and how much of the text came before malformed input.
+template <class Target>
+struct conversion {
+	Target result;
+	std::size_t read;
+};
+
 /// Makes the result with room for `reserved` units at least, and for `room(text)` where
-/// the text is long. Tells how much of the text came before malformed input.
+/// the text is long.
 template <class Target, class Source, class Room>
-std::size_t convert(Target &result, Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved,
-                    Room room) {
+conversion<Target> convert(Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved, Room room) {
 	if (text.size() > short_text) {
+		Target result;
 		result.reserve(std::max(reserved, room(text)));
-		return append_long(result, text, kernel);
+		std::size_t const read = append_long(result, text, kernel);
+		return {std::move(result), read};
 	}
 	typename Target::value_type units[longest * short_text + kernels::least_room];
-	kernels::progress const made = kernel(text.data(), text.size(), units, sizeof units / sizeof units[0]);
-	result.reserve(std::max(reserved, made.written));
+	kernels::progress const made = kernel(text.data(), text.size(), units, std::size(units));
+	if (made.written >= reserved) {
+		return {Target(units, made.written), made.read};
+	}
+	Target result;
+	result.reserve(reserved);
 	result.append(units, made.written);
-	return made.read;
+	return {std::move(result), made.read};
 }
 
 /// The same for those that answer malformed input with "-1". A unit of the text becomes
@@ -91,12 +104,12 @@ std::size_t convert(Target &result, Source const &text, kernel_of<Target, Source
 template <class Target, class Source>
 Target converted(Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved, std::size_t most) {
 	using unit = typename Target::value_type;
-	Target result;
 	auto const room = [most](Source const &from) { return most * from.size(); };
-	if (convert(result, text, kernel, reserved, room) != text.size()) {
+	conversion<Target> made = convert<Target>(text, kernel, reserved, room);
+	if (made.read != text.size()) {
 		return Target{static_cast<unit>('-'), static_cast<unit>('1')};
 	}
-	return result;
+	return std::move(made.result);
 }
 
 /// Enough for the code points of a text, and at most twice as many as there are.
@@ -123,12 +136,11 @@ ustring16 utf8_to_utf16(ustring8 const &text) {
 }
 
 ustring32 utf8_to_utf32(ustring8 const &text) {
-	ustring32 result;
-	std::size_t const read = convert(result, text, &kernels::utf8_to_utf32, 0, &room_for_points);
-	if (read == text.size()) {
-		return result;
+	conversion<ustring32> made = convert<ustring32>(text, &kernels::utf8_to_utf32, 0, &room_for_points);
+	if (made.read == text.size()) {
+		return std::move(made.result);
 	}
-	if (read != 0) {
+	if (made.read != 0) {
 		throw std::length_error("utf8_to_utf32: malformed text");
 	}
 	return ustring32(1, static_cast<utf32_char>('?'));
