@@ -538,10 +538,12 @@ public:
 	}
 
 private:
+	std::size_t below(std::size_t bound) { return static_cast<std::size_t>(m_random() % bound); }
+
 	std::string piece(std::vector<std::string> const &words) {
-		std::string word = words[m_random() % words.size()];
+		std::string word = words[below(words.size())];
 		if (m_random() % 4 == 0) {
-			word.resize(m_random() % (word.size() + 1));
+			word.resize(below(word.size() + 1));
 		}
 		if (m_random() % 24 == 0) {
 			word += 'x';

@@ -80,9 +80,8 @@ TEST(posix_catalogs, links_that_lead_nowhere_are_passed_over) {
 TEST(posix_catalogs, load_that_runs_out_of_memory_leaves_set_and_loader_usable) {
 	temporary_directory const directory;
 	std::vector<std::pair<std::string, std::string>> messages{{"k", "new"}};
-	for (int i = 0; i != 26; ++i) {
-		messages.emplace_back(std::string(1, static_cast<char>('a' + i)),
-		                      "a text that takes a block of memory of its own");
+	for (int i = 0; i != 80; ++i) {
+		messages.emplace_back("text_" + std::to_string(i), "a text that takes a block of memory of its own");
 	}
 	directory.write("old.xmc", xmc(xmc_catalog("app", "en", {{"k", "old"}})));
 	directory.write("s/inner.xmc", xmc(xmc_catalog("app", "en", messages)));

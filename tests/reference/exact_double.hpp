@@ -9,9 +9,9 @@
 #include <cstdint>
 #include <cstring>
 
-namespace quor_reference {
+#include "reference/wide_integer.hpp"
 
-__extension__ typedef unsigned __int128 wide_uint;
+namespace quor_reference {
 
 // The value of a finite double: mantissa * 2^exponent.
 struct exact_double {

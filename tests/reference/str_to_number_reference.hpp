@@ -10,10 +10,12 @@
 #include <string>
 #include <vector>
 
+#include "reference/wide_integer.hpp"
+
 namespace quor_reference {
 
 // A number of 128 bits, which no step below can overflow.
-__extension__ typedef __int128 whole;
+using whole = wide_int;
 
 struct number_type {
 	int bits;

@@ -159,7 +159,7 @@ private:
 		m_buffer.erase(0, m_done.at);
 		m_done.at = 0;
 		m_read = m_done;
-		std::string const more = file->substr(m_position, window - m_buffer.size());
+		std::string const more = file->substr(static_cast<std::size_t>(m_position), window - m_buffer.size());
 		m_buffer += more;
 		m_position += more.size();
 		return more.size();

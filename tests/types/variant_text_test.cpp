@@ -107,7 +107,7 @@ TEST(variant_text, all_integers_of_random_text_agree_with_the_reference) {
 	char const alphabet[] = "0123456789-+ xXbB\\aAfFzZ09876543211";
 	for (int i = 0; i != 4000; ++i) {
 		ustring8 text;
-		for (std::size_t size = random() % 24; size != 0; --size) {
+		for (auto size = random() % 24; size != 0; --size) {
 			text.push_back(alphabet[random() % (sizeof alphabet - 1)]);
 		}
 		SCOPED_TRACE(text);

@@ -309,8 +309,8 @@ TEST(decimal_text, atof_agrees_with_the_c_library) {
 	for (int round = 0; round != 40000; ++round) {
 		std::string text;
 		if (random() % 2 == 0) {
-			for (std::size_t count = random() % 30; count != 0; --count) {
-				text.push_back(alphabet[random() % alphabet.size()]);
+			for (auto count = random() % 30; count != 0; --count) {
+				text.push_back(alphabet[static_cast<std::size_t>(random() % alphabet.size())]);
 			}
 		} else {
 			text = printed("%.*e", static_cast<int>(random() % 40), random_double(random));

@@ -188,7 +188,7 @@ TEST(to_device_unit, of_numbers_in_every_unit_cuts_md_first) {
 	for (int i = 0; i != 20000; ++i) {
 		double const number =
 		    std::ldexp(static_cast<double>(static_cast<std::int64_t>(random())), static_cast<int>(random() % 80) - 80);
-		int const unit = units[random() % units.size()];
+		int const unit = units[static_cast<std::size_t>(random() % units.size())];
 		int32 const dpi = wrapped(static_cast<std::int64_t>(random())) >> (random() % 31);
 		int32 const expected = expected_pixels(reference::exact_low_32(expected_md(number, unit)), dpi);
 		SCOPED_TRACE(testing::Message() << number << ' ' << unit << ' ' << dpi);
