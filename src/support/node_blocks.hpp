@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace QUOR_2_9::support {
@@ -38,7 +39,8 @@ private:
 	// A block is small beside what is there, so that little is left over at the end.
 	void add(std::size_t bytes) {
 		std::size_t const size = std::max(bytes, std::clamp(m_total / 16, smallest, largest));
-		m_blocks.emplace_back(new std::byte[size]);
+		std::unique_ptr<std::byte[]> block(new std::byte[size]);
+		m_blocks.push_back(std::move(block));
 		m_free = m_blocks.back().get();
 		m_left = size;
 		m_total += size;
