@@ -191,21 +191,12 @@ void xmc_file_loader::include_file(ustring8 const &path) {
 }
 
 void xmc_file_loader::set_message(message_t const &message, ustring8 const &catalog) {
-	store_message(message_t(message), m_catalogs[catalog], get_locale_weight(message._orginal_locale()));
-}
-
-void xmc_file_loader::store_message(message_t &&message, catalog_t &catalog, types::uint32 weight) const {
-	// The catalogs of a loader are without an index until their messages go over to others.
-	auto &messages = catalog.m_storage->messages;
-	auto const place = messages.lower_bound(message.m_name);
-	if (place == messages.end() || place->first != message.m_name) {
-		messages.emplace_hint(place, message.m_name, std::move(message));
-	} else if (get_locale_weight(place->second.m_orginal_locale) < weight) {
-		place->second = std::move(message);
-	} else {
-		return;
+	types::uint32 const weight = get_locale_weight(message._orginal_locale());
+	catalog_t &to = m_catalogs[catalog];
+	auto const *const stored = to.m_storage->find(message.name());
+	if (stored == nullptr || get_locale_weight(ustring8(stored->locale())) < weight) {
+		to.message(message.name(), message);
 	}
-	catalog.m_languages.clear();
 }
 
 types::uint32 xmc_file_loader::get_locale_weight(ustring8 const &language) const {

@@ -15,8 +15,7 @@ public:
 
 private:
 	static catalog_t &catalog_of(catalog_map &map, strings::ustring8 const &name);
-	static types::uint32 copy_messages(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to);
-	static types::uint32 move_messages(xmc_file_loader const &loader, catalog_t &from, catalog_t &to);
+	static types::uint32 merge(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to);
 };
 
 } // namespace QUOR_2_9::i18n::_private

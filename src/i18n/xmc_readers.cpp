@@ -1,18 +1,20 @@
 #include <quor/i18n/xmc_file_loader.hpp>
 
-#include <iterator>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include <quor/parser/xml_token_stream.hpp>
-#include <quor/strings/case.hpp>
 
+#include "i18n/message_storage.hpp"
 #include "parser/compact_token_list.hpp"
+#include "support/ascii.hpp"
 
 namespace QUOR_2_9::i18n::_private {
 
 namespace {
 
+using detail::message_draft;
 using strings::ustring8;
 using load_error = xmc_file_loader::load_error;
 using token = parser::xml_token_stream::token;
@@ -48,13 +50,14 @@ ustring8 text_of(Iterator const &it, Iterator const &end) {
 
 // Steps on and reads the value of an attribute whose name stands here.
 template <class Iterator>
-ustring8 attribute_value(Iterator &it, Iterator const &end) {
+void read_value(Iterator &it, Iterator const &end, ustring8 &value) {
 	++it;
-	ustring8 value = text_of(it, end);
-	if (it != end) {
+	if (it == end) {
+		value.clear();
+	} else {
+		value.assign(value_of(it));
 		++it;
 	}
-	return value;
 }
 
 // Steps over what isn't an attribute in front of the attributes end, such as a comment;
@@ -70,19 +73,38 @@ bool at_attribute(Iterator &it, Iterator const &end, xmc_file_loader::error_type
 	return it->type() == token::token_attribute_name;
 }
 
-void add_literal(std::vector<message_item> &items, ustring8 &literal) {
-	if (!literal.empty()) {
-		items.emplace_back(literal);
-		literal.clear();
+// White space collapses to one blank; at the start of a literal it counts only behind
+// an argument.
+void add_space(message_draft &draft, bool behind_argument) {
+	if (draft.in_literal() ? draft.last_of_literal() != ' ' : behind_argument) {
+		draft.append_literal(' ');
 	}
 }
 
-// White space collapses to one blank; at the start of a literal it counts only behind
-// an argument.
-void add_space(ustring8 &buffer, bool behind_argument) {
-	if (buffer.empty() ? behind_argument : buffer.back() != ' ') {
-		buffer.push_back(' ');
+message_item::type_t type_of(std::string_view word) noexcept {
+	static constexpr std::pair<std::string_view, message_item::type_t> words[] = {
+	    {"value", message_item::type_value},
+	    {"string", message_item::type_string},
+	    {"number", message_item::type_number},
+	    {"int", message_item::type_int},
+	    {"double", message_item::type_double},
+	    {"time", message_item::type_time},
+	    {"date", message_item::type_date},
+	    {"memory", message_item::type_memory},
+	    {"mem", message_item::type_memory},
+	    {"mem_unit", message_item::type_memory_unit},
+	    {"memory_unit", message_item::type_memory_unit},
+	    {"metric", message_item::type_metric},
+	    {"metric_unit", message_item::type_metric_unit},
+	    {"duration", message_item::type_duration},
+	};
+	for (auto const &[text, type] : words) {
+		if (std::equal(text.begin(), text.end(), word.begin(), word.end(),
+		               [](char lower, char unit) { return support::to_lower(unit) == lower; })) {
+			return type;
+		}
 	}
+	return message_item::type_string;
 }
 
 // Reads a `br` element whose start stands here.
@@ -169,7 +191,7 @@ void xmc_file_loader::parse_include(Iterator &it, Iterator const &end) {
 		if (value_of(it) != "file") {
 			throw load_error(load_invalid_attribute, text_of(it, end));
 		}
-		path = attribute_value(it, end);
+		read_value(it, end, path);
 	}
 	++it;
 	if (path.empty()) {
@@ -202,9 +224,9 @@ void xmc_file_loader::read_catalog(Iterator &it, Iterator const &end, ustring8 &
 	ustring8 lang;
 	while (at_attribute(it, end, load_unexpected, ustring8())) {
 		if (value_of(it) == "name") {
-			name = attribute_value(it, end);
+			read_value(it, end, name);
 		} else if (value_of(it) == "lang") {
-			lang = attribute_value(it, end);
+			read_value(it, end, lang);
 		} else {
 			throw load_error(load_invalid_attribute, text_of(it, end));
 		}
@@ -218,14 +240,17 @@ void xmc_file_loader::read_catalog(Iterator &it, Iterator const &end, ustring8 &
 		}
 	} else {
 		catalog_t &catalog = m_catalogs[name];
+		auto const yields = [this, weight](std::string_view locale) {
+			return get_locale_weight(ustring8(locale)) < weight;
+		};
+		message_draft draft(m_draft_memory);
 		parse_ignorable(it, end);
 		if (it == end) {
 			throw load_error(load_unexpected, ustring8());
 		}
 		while (is(it, end, token::token_element_start, "msg")) {
-			message_t message = parse_message(it, end);
-			message.m_orginal_locale = lang;
-			store_message(std::move(message), catalog, weight);
+			read_message(it, end, draft);
+			catalog.m_storage->offer(draft.compiled(lang), yields);
 			parse_ignorable(it, end);
 		}
 	}
@@ -237,62 +262,62 @@ void xmc_file_loader::read_catalog(Iterator &it, Iterator const &end, ustring8 &
 
 template <class Iterator>
 message_t xmc_file_loader::parse_message(Iterator &it, Iterator const &end) {
-	ustring8 name;
+	message_draft draft(m_draft_memory);
+	read_message(it, end, draft);
+	return detail::message_maker::make(draft.compiled({}));
+}
+
+template <class Iterator>
+void xmc_file_loader::read_message(Iterator &it, Iterator const &end, message_draft &draft) {
+	draft.clear();
 	try {
-		return read_message(it, end, name);
+		if (!is(it, end, token::token_element_start, "msg")) {
+			throw load_error(load_unexpected, ustring8());
+		}
+		++it;
+		while (at_attribute(it, end, load_unexpected, ustring8())) {
+			if (value_of(it) == "name") {
+				read_value(it, end, draft.name);
+			} else if (value_of(it) == "meta") {
+				read_value(it, end, draft.meta);
+			} else {
+				throw load_error(load_invalid_attribute, text_of(it, end));
+			}
+		}
+		++it;
+		read_message_items(it, end, draft);
 	} catch (load_error &error) {
-		error.append_error_stack(load_error::append_message, name);
+		error.append_error_stack(load_error::append_message, draft.name);
 		throw;
 	}
 }
 
 template <class Iterator>
-message_t xmc_file_loader::read_message(Iterator &it, Iterator const &end, ustring8 &name) {
-	if (!is(it, end, token::token_element_start, "msg")) {
-		throw load_error(load_unexpected, ustring8());
-	}
-	++it;
-	ustring8 meta;
-	while (at_attribute(it, end, load_unexpected, ustring8())) {
-		if (value_of(it) == "name") {
-			name = attribute_value(it, end);
-		} else if (value_of(it) == "meta") {
-			meta = attribute_value(it, end);
-		} else {
-			throw load_error(load_invalid_attribute, text_of(it, end));
-		}
-	}
-	++it;
-	m_items.clear();
-	m_literal.clear();
+void xmc_file_loader::read_message_items(Iterator &it, Iterator const &end, message_draft &draft) {
 	bool behind_argument = false;
 	while (it != end) {
 		// The word alone ends the message, whatever kind of token it is.
 		if (it->type() == token::token_element_end || value_of(it) == "msg") {
-			add_literal(m_items, m_literal);
+			draft.close_literal();
 			++it;
-			message_t message;
-			message.m_items.assign(std::make_move_iterator(m_items.begin()), std::make_move_iterator(m_items.end()));
-			message.m_name = std::move(name);
-			message.m_meta = std::move(meta);
-			return message;
+			return;
 		}
 		if (it->type() == token::token_space) {
-			add_space(m_literal, behind_argument);
+			add_space(draft, behind_argument);
 			behind_argument = false;
 			++it;
 		} else if (it->type() == token::token_character) {
-			m_literal.append(value_of(it));
+			draft.append_literal(value_of(it));
 			behind_argument = false;
 			++it;
 		} else if (it->type() != token::token_element_start) {
 			++it;
 		} else if (value_of(it) == "br") {
-			m_literal.push_back('\n');
+			draft.append_literal('\n');
 			skip_br(it, end);
 		} else if (is_argument_name(it)) {
-			add_literal(m_items, m_literal);
-			m_items.push_back(parse_message_arg(it, end));
+			draft.open_argument();
+			draft.close_argument(read_argument(it, end, draft));
 			behind_argument = true;
 		} else {
 			throw load_error(load_invalid_element, text_of(it, end));
@@ -303,24 +328,41 @@ message_t xmc_file_loader::read_message(Iterator &it, Iterator const &end, ustri
 
 template <class Iterator>
 message_item xmc_file_loader::parse_message_arg(Iterator &it, Iterator const &end) {
+	message_draft draft(m_draft_memory);
+	draft.clear();
+	draft.open_argument();
+	message_item::type_t const type = read_argument(it, end, draft);
+	return message_item(ustring8(draft.last_text()), type);
+}
+
+// Writes the field string.
+template <class Iterator>
+message_item::type_t xmc_file_loader::read_argument(Iterator &it, Iterator const &end, message_draft &draft) {
 	if (!is(it, end, token::token_element_start) || !is_argument_name(it)) {
 		throw load_error(load_invalid_element, text_of(it, end));
 	}
 	++it;
 	message_item::type_t type = message_item::type_string;
-	ustring8 data;
 	ustring8 name;
 	while (at_attribute(it, end, load_no_arg_end, name)) {
 		if (value_of(it) == "name") {
-			name = attribute_value(it, end);
-			data = name;
+			// What stands in front of it is lost.
+			read_value(it, end, name);
+			draft.restart_argument();
+			draft.append(name);
 		} else if (value_of(it) == "type") {
-			type = parse_message_type(attribute_value(it, end));
+			++it;
+			type = type_of(it == end ? std::string_view() : value_of(it));
+			if (it != end) {
+				++it;
+			}
 		} else {
-			data.append(1, field_separator).append(value_of(it)).append(1, field_separator);
+			draft.append(field_separator);
+			draft.append(value_of(it));
+			draft.append(field_separator);
 			++it;
 			if (is(it, end, token::token_attribute_value)) {
-				data.append(value_of(it));
+				draft.append(value_of(it));
 				++it;
 			}
 		}
@@ -335,33 +377,11 @@ message_item xmc_file_loader::parse_message_arg(Iterator &it, Iterator const &en
 	if (it == end) {
 		throw load_error(load_unexpected, ustring8());
 	}
-	return message_item(data, type);
+	return type;
 }
 
 message_item::type_t xmc_file_loader::parse_message_type(ustring8 const &word) const {
-	static constexpr std::pair<std::string_view, message_item::type_t> words[] = {
-	    {"value", message_item::type_value},
-	    {"string", message_item::type_string},
-	    {"number", message_item::type_number},
-	    {"int", message_item::type_int},
-	    {"double", message_item::type_double},
-	    {"time", message_item::type_time},
-	    {"date", message_item::type_date},
-	    {"memory", message_item::type_memory},
-	    {"mem", message_item::type_memory},
-	    {"mem_unit", message_item::type_memory_unit},
-	    {"memory_unit", message_item::type_memory_unit},
-	    {"metric", message_item::type_metric},
-	    {"metric_unit", message_item::type_metric_unit},
-	    {"duration", message_item::type_duration},
-	};
-	ustring8 const lower = strings::lower_case(word);
-	for (auto const &[text, type] : words) {
-		if (text == lower) {
-			return type;
-		}
-	}
-	return message_item::type_string;
+	return type_of(word);
 }
 
 template load_error xmc_file_loader::read_document(parser::compact_token_list::const_iterator,

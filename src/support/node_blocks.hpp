@@ -9,15 +9,17 @@
 
 namespace QUOR_2_9::support {
 
-/// Memory for the nodes of a container that only grows: they stand one behind the other in
-/// large blocks, which are freed together.
+/// Memory for what only grows, such as the nodes of a container: the pieces stand one behind the
+/// other in large blocks, which are freed together.
 class node_blocks {
 public:
 	node_blocks() = default;
 	node_blocks(node_blocks const &) = delete;
 	node_blocks &operator=(node_blocks const &) = delete;
 
-	void *take(std::size_t bytes) {
+	/// A piece that any pointer or number may stand in.
+	void *take(std::size_t size) {
+		std::size_t const bytes = (size + alignment - 1) / alignment * alignment;
 		if (bytes > m_left) {
 			add(bytes);
 		}
@@ -28,6 +30,7 @@ public:
 	}
 
 private:
+	static constexpr std::size_t alignment = std::max(alignof(std::max_align_t) / 2, alignof(void *));
 	static constexpr std::size_t smallest = 2048;
 	static constexpr std::size_t largest = 65536;
 
@@ -47,8 +50,7 @@ private:
 	}
 };
 
-/// Takes nodes from blocks, which outlive the container. All pieces have one size, which keeps
-/// them aligned.
+/// Takes nodes from blocks, which outlive the container.
 template <class T>
 class node_allocator {
 public:

@@ -1,5 +1,9 @@
 // Loading grows with the file: twice the file, about twice the allocations.
 
+#include <algorithm>
+#include <new>
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include <quor/i18n/xmc_file_loader.hpp>
@@ -143,6 +147,58 @@ TEST(xmc_growth, parse_string_that_runs_out_of_memory_leaves_a_usable_loader) {
 		EXPECT_EQ(loader.combine_data(catalogs), 1U);
 	}
 	EXPECT_GT(index, 10U);
+}
+
+TEST(xmc_growth, files_that_are_loaded_again_and_again_take_the_memory_once) {
+	loader_t::catalog_map catalogs;
+	auto const load = [&catalogs](std::size_t size) {
+		loader_t loader;
+		loader.handle_language(".");
+		ustring8 const text(catalog("<msg name='m'>" + std::string(size, 'x') + "</msg><msg name='n'>text</msg>"));
+		EXPECT_EQ(loader.parse_string(text, "f").type(), loader_t::load_none);
+		loader.combine_data(catalogs);
+	};
+	load(10);
+	quor_test::allocation_counter const counter;
+	std::size_t bytes = 0;
+	for (std::size_t i = 0; i != 2000; ++i) {
+		load(10 + i);
+		bytes = std::max<std::size_t>(bytes, 10 + i);
+	}
+	for (std::size_t i = 0; i != 2000; ++i) {
+		load(i);
+	}
+	EXPECT_LT(counter.live(), 100);
+	quor_test::allocation_counter const later;
+	catalogs["c"]->message("m");
+	EXPECT_LT(later.bytes(), 4 * bytes);
+	EXPECT_EQ(catalogs["c"]->message("m").begin()->data(), std::string(1999, 'x'));
+}
+
+// Whatever fails while a message is made, it can be made later.
+TEST(xmc_growth, a_message_that_there_is_no_memory_for_is_made_later) {
+	loader_t loader;
+	loader.handle_language(".");
+	loader.parse_string(ustring8(message("a text that is longer than a small string <arg name='a'/>")), "f");
+	loader_t::catalog_map catalogs;
+	loader.combine_data(catalogs);
+	std::size_t failures = 0;
+	for (bool happened = true; happened;) {
+		quor::i18n::catalog_t const copy(*catalogs["c"]);
+		{
+			quor_test::allocation_failure const failure(failures);
+			try {
+				copy.message("m");
+			} catch (std::bad_alloc const &) {
+				++failures;
+			}
+			happened = failure.happened();
+		}
+		EXPECT_TRUE(copy.has_message("m"));
+		EXPECT_EQ(copy.message("m").count(), 2U);
+		EXPECT_EQ(copy.begin()->second.count(), 2U);
+	}
+	EXPECT_GT(failures, 1U);
 }
 
 } // namespace

@@ -115,7 +115,9 @@ public:
 	bool has_message(strings::ustring32 const &key) const;
 	/// @}
 
-	/// The message of that name, or `m_nil_message`. Logarithmic in `size()`.
+	/// The message of that name, or `m_nil_message`. Takes the same time for any `size()`; the
+	/// first look-up of a message that a loader brought makes it.
+	/// @throws std::bad_alloc
 	/// @since 2.9
 	/// @{
 	message_t const &message(strings::ustring8 const &key) const;
@@ -158,12 +160,16 @@ public:
 	std::size_t size() const noexcept;
 
 	/// The first message.
+	///
+	/// This and `end()` make all messages that a loader brought and nobody has asked for yet:
+	/// linear in these the first time, one lock after that.
+	/// @throws std::bad_alloc
 	/// @since 2.9
-	const_iterator begin() const noexcept;
+	const_iterator begin() const;
 
 	/// Behind the last message.
 	/// @since 2.9
-	const_iterator end() const noexcept;
+	const_iterator end() const;
 
 private:
 	friend class message_catalogs;
@@ -173,15 +179,10 @@ private:
 	using element = std::pair<strings::ustring8 const, message_t>;
 
 	message_t const *find(std::string_view key) const;
-	void reserve_index(std::size_t count);
-	void add_to_index(element const &entry) noexcept;
 
 	strings::ustring8 m_name;
 	mutable std::set<strings::ustring8> m_languages;
 	std::unique_ptr<storage> m_storage;
-	// The messages by the hash of their names: a power of two of places, at most half of them taken.
-	std::vector<element const *> m_index;
-	bool m_index_is_whole = true;
 };
 
 } // namespace QUOR_2_9::i18n

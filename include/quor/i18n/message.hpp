@@ -25,6 +25,10 @@
 
 namespace QUOR_2_9::i18n {
 
+namespace detail {
+class message_maker;
+} // namespace detail
+
 /// An ordered list of pieces with a name, a free text and the language it was found in.
 ///
 /// The nil message has no items, no name and no meta text; the language plays no part
@@ -189,7 +193,7 @@ public:
 	types::wide_string as_ustring(generic::varg_list const &args) const;
 
 private:
-	friend class _private::xmc_file_loader;
+	friend class detail::message_maker;
 
 	std::vector<message_item> m_items;
 	strings::ustring8 m_orginal_locale;

@@ -27,6 +27,10 @@
 #include <quor/strings/ustring.hpp>
 #include <quor/types/widths.hpp>
 
+namespace QUOR_2_9::i18n::detail {
+class message_draft;
+} // namespace QUOR_2_9::i18n::detail
+
 namespace QUOR_2_9::i18n::_private {
 
 /// Reads the catalogs that match a language, and optionally a name, out of XMC files.
@@ -278,16 +282,18 @@ private:
 	template <class Iterator>
 	void read_catalog(Iterator &it, Iterator const &end, strings::ustring8 &name);
 	template <class Iterator>
-	message_t read_message(Iterator &it, Iterator const &end, strings::ustring8 &name);
+	void read_message(Iterator &it, Iterator const &end, detail::message_draft &draft);
+	template <class Iterator>
+	void read_message_items(Iterator &it, Iterator const &end, detail::message_draft &draft);
+	template <class Iterator>
+	message_item::type_t read_argument(Iterator &it, Iterator const &end, detail::message_draft &draft);
 
 	void start_reading();
 	void include_file(strings::ustring8 const &path);
-	void store_message(message_t &&message, catalog_t &catalog, types::uint32 weight) const;
 
 	std::vector<requested_language> m_languages;
 	std::map<strings::ustring8, catalog_t> m_catalogs;
-	std::vector<message_item> m_items; // of the message that is being read
-	strings::ustring8 m_literal;       // what stands behind these
+	strings::ustring8 m_draft_memory[3]; // of the message that is being read
 	strings::ustring8 m_include_base;
 	strings::ustring8 m_catalog_filter;
 	types::uint32 m_language_count = 0;
