@@ -8,7 +8,8 @@
 #include <quor/system/io.hpp>
 
 #include "i18n/message_storage.hpp"
-#include "parser/compact_token_list.hpp"
+#include "i18n/xmc_document.hpp"
+#include "parser/token_reader.hpp"
 
 namespace QUOR_2_9::i18n::_private {
 
@@ -130,20 +131,25 @@ load_error xmc_file_loader::parse(ustring32 const &file, ustring32 const &langua
 	return parse(strings::utf32_to_utf8(file), strings::utf32_to_utf8(language), strings::utf32_to_utf8(catalog));
 }
 
-template <class Tokens>
-load_error xmc_file_loader::read_tokens(Tokens const &tokens, parser::xml_parser::parse_error const &error,
-                                        ustring8 const &file) {
-	if (error.code() != parser::xml_parser::parse_error::error_none) {
-		load_error result(load_xml_error, error);
-		result.append_error_stack(load_error::append_file, file);
-		return result;
-	}
+load_error xmc_file_loader::read_text(std::string_view text, ustring8 const &file) {
+	parser::token_reader tokens(text);
+	document here(*this, text);
+	load_error result(load_none, ustring8());
 	try {
-		return read_document(tokens.begin(), tokens.end(), file);
-	} catch (load_error &result) {
+		try {
+			result = read_document(tokens.begin(), tokens.end(), file);
+		} catch (load_error const &error) {
+			result = error;
+			result.append_error_stack(load_error::append_file, file);
+		}
+		tokens.finish();
+	} catch (parser::xml_parser::parse_error const &error) {
+		result = load_error(load_xml_error, error);
 		result.append_error_stack(load_error::append_file, file);
 		return result;
 	}
+	here.settle();
+	return result;
 }
 
 load_error xmc_file_loader::parse_file(ustring8 const &file) {
@@ -151,24 +157,17 @@ load_error xmc_file_loader::parse_file(ustring8 const &file) {
 	if (!system::io::exists(file)) {
 		return load_error(load_file_not_found, file);
 	}
-	parser::compact_token_list tokens;
-	parser::xml_parser::parse_error error;
-	{
-		// What can't be read counts as empty. The string's own zero is the one behind it.
-		ustring8 content;
-		system::load_file(file, content);
-		error = tokens.parse({content.c_str(), content.size() + 1});
-	}
+	// What can't be read counts as empty. The string's own zero is the one behind it.
+	ustring8 content;
+	system::load_file(file, content);
 	std::size_t const separator = file.find_last_of("\\/");
 	m_include_base = separator == ustring8::npos ? ustring8("./") : ustring8(file, 0, separator + 1);
-	return read_tokens(tokens, error, file);
+	return read_text({content.c_str(), content.size() + 1}, file);
 }
 
 load_error xmc_file_loader::parse_string(ustring8 const &text, ustring8 const &file) {
 	start_reading();
-	parser::compact_token_list tokens;
-	parser::xml_parser::parse_error const error = tokens.parse(text);
-	return read_tokens(tokens, error, file);
+	return read_text(text, file);
 }
 
 // Counts the file; the limits are for everything that one call from outside reads.
@@ -183,11 +182,18 @@ void xmc_file_loader::include_file(ustring8 const &path) {
 	if (m_include_depth == max_include_depth || m_file_count == max_files) {
 		throw load_error(load_unexpected, ustring8());
 	}
+	if (m_document != nullptr) {
+		m_document->check();
+	}
 	include_level const level(*this);
 	load_error const result = parse_file(is_whole_path(path) ? path : m_include_base + path);
 	if (result.type() != load_none) {
 		throw load_error(result);
 	}
+}
+
+catalog_t &xmc_file_loader::catalog_to_fill(ustring8 const &name) {
+	return m_document != nullptr ? m_document->catalog(name) : m_catalogs[name];
 }
 
 void xmc_file_loader::set_message(message_t const &message, ustring8 const &catalog) {

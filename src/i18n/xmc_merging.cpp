@@ -11,7 +11,7 @@ using strings::ustring8;
 types::uint32 xmc_file_loader::merging::copy(xmc_file_loader const &from, catalog_map &to) {
 	types::uint32 stored = 0;
 	for (auto const &[name, loaded] : from.m_catalogs) {
-		stored += merge(from, loaded, catalog_of(to, name));
+		stored += merge(from, loaded, catalog_of(to, name), newer_wins);
 	}
 	return stored;
 }
@@ -25,7 +25,7 @@ types::uint32 xmc_file_loader::merging::move(xmc_file_loader &from, catalog_map 
 			catalog.m_languages.clear();
 			stored += static_cast<types::uint32>(catalog.size());
 		} else {
-			stored += merge(from, loaded, catalog);
+			stored += merge(from, loaded, catalog, newer_wins);
 		}
 	}
 	return stored;
@@ -43,12 +43,14 @@ catalog_t &xmc_file_loader::merging::catalog_of(catalog_map &map, ustring8 const
 	return *entry->second;
 }
 
-types::uint32 xmc_file_loader::merging::merge(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to) {
+types::uint32 xmc_file_loader::merging::merge(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to,
+                                              tie at_tie) {
 	types::uint32 stored = 0;
 	from.m_storage->visit([&](auto const &message) {
 		types::uint32 const weight = loader.get_locale_weight(ustring8(message.locale()));
 		auto const yields = [&](std::string_view locale) {
-			return loader.get_locale_weight(ustring8(locale)) <= weight;
+			types::uint32 const there = loader.get_locale_weight(ustring8(locale));
+			return there < weight || (there == weight && at_tie == newer_wins);
 		};
 		if (to.m_storage->offer(message, yields)) {
 			to.m_languages.clear();

@@ -13,9 +13,12 @@ public:
 	// The messages go over as they are; those that the map doesn't take are of no use any more.
 	static types::uint32 move(xmc_file_loader &from, catalog_map &to);
 
+	// What becomes of two texts of equal weight.
+	enum tie { first_stays, newer_wins };
+	static types::uint32 merge(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to, tie at_tie);
+
 private:
 	static catalog_t &catalog_of(catalog_map &map, strings::ustring8 const &name);
-	static types::uint32 merge(xmc_file_loader const &loader, catalog_t const &from, catalog_t &to);
 };
 
 } // namespace QUOR_2_9::i18n::_private

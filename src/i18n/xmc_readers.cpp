@@ -7,7 +7,7 @@
 #include <quor/parser/xml_token_stream.hpp>
 
 #include "i18n/message_storage.hpp"
-#include "parser/compact_token_list.hpp"
+#include "parser/token_reader.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::i18n::_private {
@@ -239,7 +239,7 @@ void xmc_file_loader::read_catalog(Iterator &it, Iterator const &end, ustring8 &
 			++it;
 		}
 	} else {
-		catalog_t &catalog = m_catalogs[name];
+		catalog_t &catalog = catalog_to_fill(name);
 		auto const yields = [this, weight](std::string_view locale) {
 			return get_locale_weight(ustring8(locale)) < weight;
 		};
@@ -384,9 +384,8 @@ message_item::type_t xmc_file_loader::parse_message_type(ustring8 const &word) c
 	return type_of(word);
 }
 
-template load_error xmc_file_loader::read_document(parser::compact_token_list::const_iterator,
-                                                   parser::compact_token_list::const_iterator const &,
-                                                   ustring8 const &);
+template load_error xmc_file_loader::read_document(parser::token_reader::iterator,
+                                                   parser::token_reader::iterator const &, ustring8 const &);
 
 #define QUOR_READERS(iterator)                                                                                         \
   template QUOR_API void xmc_file_loader::parse_ignorable(iterator &, iterator const &);                               \

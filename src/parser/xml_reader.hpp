@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 
@@ -21,27 +22,69 @@
 
 namespace QUOR_2_9::parser::detail {
 
-template <class Events>
+template <class Events, class Elements = std::deque<strings::ustring8>>
 class xml_reader {
 public:
 	// Reads from `begin` to `end`. What is left open stays in the state.
-	xml_reader(Events &events, xml_reader_state const &state, char const *begin, char const *end)
+	xml_reader(Events &events, xml_reader_state<Elements> const &state, char const *begin, char const *end)
 	    : m_events(events), m_state(state), m_at(begin), m_end(end) {}
 
 	// Where the reading ended, or the fault.
 	char const *at() const noexcept { return m_at; }
 
 	xml_parser::parse_error read() {
-		m_state.line = 0;
-		m_state.in_tag = false;
 		try {
-			read_header();
-			read_body();
+			start();
+			while (!is_at_end()) {
+				step();
+			}
+			finish();
 		} catch (parse_error const &error) {
 			return error;
 		}
-		return parse_error(m_state.elements.empty() ? parse_error::error_none : parse_error::error_eof, 0,
-		                   strings::ustring8());
+		return parse_error(parse_error::error_none, 0, strings::ustring8());
+	}
+
+	// The same in steps: the header, then pieces up to the end, each with a few events; at the
+	// end it is known whether there is something left open. A fault is thrown.
+	void start() {
+		m_state.line = 0;
+		m_state.in_tag = false;
+		m_root_seen = false;
+		read_header();
+	}
+	bool is_at_end() const noexcept { return m_at == m_end; }
+	void step() {
+		if (is_of(*m_at, space_byte)) {
+			char const *const first = m_at;
+			skip_space();
+			if (!m_state.in_tag) {
+				m_events.space(between(first, m_at));
+			}
+			if (m_at == m_end) {
+				return;
+			}
+		}
+		if (*m_at == '<') {
+			read_markup();
+		} else if (*m_at == '>') {
+			if (!m_state.in_tag) {
+				fail_here();
+			}
+			m_state.in_tag = false;
+			++m_at;
+		} else if (!m_state.in_tag) {
+			read_text();
+		} else if (*m_at == '/') {
+			read_empty_end();
+		} else {
+			read_attribute();
+		}
+	}
+	void finish() const {
+		if (!m_state.elements.empty()) {
+			throw parse_error(parse_error::error_eof, 0, strings::ustring8());
+		}
 	}
 
 	void skip_space() noexcept { m_at = end_of_space(m_at, m_end, m_state.line); }
@@ -121,38 +164,7 @@ private:
 		}
 	}
 
-	void read_body() {
-		bool root_seen = false;
-		while (m_at != m_end) {
-			if (is_of(*m_at, space_byte)) {
-				char const *const first = m_at;
-				skip_space();
-				if (!m_state.in_tag) {
-					m_events.space(between(first, m_at));
-				}
-				if (m_at == m_end) {
-					break;
-				}
-			}
-			if (*m_at == '<') {
-				read_markup(root_seen);
-			} else if (*m_at == '>') {
-				if (!m_state.in_tag) {
-					fail_here();
-				}
-				m_state.in_tag = false;
-				++m_at;
-			} else if (!m_state.in_tag) {
-				read_text();
-			} else if (*m_at == '/') {
-				read_empty_end();
-			} else {
-				read_attribute();
-			}
-		}
-	}
-
-	void read_markup(bool &root_seen) {
+	void read_markup() {
 		if (m_state.in_tag) {
 			fail_here();
 		}
@@ -167,7 +179,7 @@ private:
 		} else if (*m_at == '!' && at_comment()) {
 			read_comment();
 		} else {
-			read_start_tag(root_seen);
+			read_start_tag();
 		}
 	}
 
@@ -212,15 +224,15 @@ private:
 		++m_at;
 	}
 
-	void read_start_tag(bool &root_seen) {
-		if (m_state.elements.empty() && root_seen) {
+	void read_start_tag() {
+		if (m_state.elements.empty() && m_root_seen) {
 			fail(parse_error::error_data_after_root);
 		}
 		std::string_view const name = read_name();
 		m_state.elements.emplace_back(name);
 		m_state.attributes.clear();
 		m_events.element_start(name);
-		root_seen = true;
+		m_root_seen = true;
 		++m_at;
 	}
 
@@ -289,9 +301,10 @@ private:
 	}
 
 	Events &m_events;
-	xml_reader_state m_state;
+	xml_reader_state<Elements> m_state;
 	char const *m_at;
 	char const *m_end;
+	bool m_root_seen = false;
 	std::string m_resolved;
 };
 

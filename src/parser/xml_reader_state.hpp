@@ -70,9 +70,11 @@ private:
 	}
 };
 
-// What one reading leaves to the next one; it belongs to somebody else.
+// What one reading leaves to the next one; it belongs to somebody else. The names of the open
+// elements are strings, or views where the text outlives the reading.
+template <class Elements>
 struct xml_reader_state {
-	std::deque<strings::ustring8> &elements;
+	Elements &elements;
 	attribute_names attributes;
 	bool &in_tag;
 	types::uint32 &line;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <utility>
 
 #include <quor/i18n/xmc_file_loader.hpp>
 
@@ -271,6 +272,52 @@ TEST(xmc_include, fan_out_of_powers_of_two_ends) {
 	load_error const error = xmc_loader().parse(directory.path("0.xmc"));
 	EXPECT_EQ(error.type(), 14);
 	EXPECT_GE(count_lines(error.message()), 28U);
+}
+
+TEST(xmc_include, of_a_malformed_file_nothing_stays_and_nothing_is_included) {
+	temporary_directory directory;
+	directory.write("b.xmc", document(catalog("b", "2")));
+	directory.write("a.xmc", document(catalog("a", "1") + include("b.xmc") + catalog("c", "3")) + "<x/>");
+	directory.write("d.xmc", document(include("b.xmc") + include("a.xmc")));
+	for (auto const &[file, expected] : {std::pair("a.xmc", ""), std::pair("d.xmc", "b: m(.)=2")}) {
+		xmc_loader loader;
+		load_error const error = loader.parse(directory.path(file));
+		EXPECT_EQ(error.type(), xmc_loader::load_xml_error);
+		EXPECT_EQ(quor_test::xmc_text(loader), expected);
+	}
+}
+
+TEST(xmc_include, a_malformed_end_comes_before_any_other_fault) {
+	temporary_directory directory;
+	directory.write("a.xmc", document(catalog("a", "1") + include("none.xmc")) + "<x/>");
+	directory.write("b.xmc", document(catalog("a", "1") + "<unknown/>") + "<x/>");
+	for (std::string const file : {"a.xmc", "b.xmc"}) {
+		EXPECT_EQ(xmc_loader().parse(directory.path(file)).type(), xmc_loader::load_xml_error);
+	}
+}
+
+TEST(xmc_include, texts_around_an_include_keep_their_order) {
+	temporary_directory directory;
+	directory.write("b.xmc", document(catalog("c", "included")));
+	directory.write("first.xmc", document(catalog("c", "own") + include("b.xmc")));
+	directory.write("last.xmc", document(include("b.xmc") + catalog("c", "own")));
+	xmc_loader first;
+	EXPECT_EQ(first.parse(directory.path("first.xmc")).type(), xmc_loader::load_none);
+	EXPECT_EQ(quor_test::xmc_text(first), "c: m(.)=own");
+	xmc_loader last;
+	EXPECT_EQ(last.parse(directory.path("last.xmc")).type(), xmc_loader::load_none);
+	EXPECT_EQ(quor_test::xmc_text(last), "c: m(.)=included");
+	// A further file adds to what is there, and what is there stays.
+	EXPECT_EQ(last.parse(directory.path("first.xmc")).type(), xmc_loader::load_none);
+	EXPECT_EQ(quor_test::xmc_text(last), "c: m(.)=included");
+}
+
+TEST(xmc_include, texts_in_front_of_a_fault_stay) {
+	temporary_directory directory;
+	directory.write("a.xmc", document(catalog("a", "1") + include("none.xmc") + catalog("b", "2")));
+	xmc_loader loader;
+	EXPECT_EQ(loader.parse(directory.path("a.xmc")).type(), xmc_loader::load_file_not_found);
+	EXPECT_EQ(quor_test::xmc_text(loader), "a: m(.)=1");
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <map>
+#include <string_view>
 #include <vector>
 
 #include <quor/export.hpp>
@@ -271,12 +272,11 @@ private:
 		types::uint32 first;
 	};
 
+	class document;
 	class include_level;
 	class merging;
 
-	template <class Tokens>
-	load_error read_tokens(Tokens const &tokens, parser::xml_parser::parse_error const &error,
-	                       strings::ustring8 const &file);
+	load_error read_text(std::string_view text, strings::ustring8 const &file);
 	template <class Iterator>
 	load_error read_document(Iterator it, Iterator const &end, strings::ustring8 const &file);
 	template <class Iterator>
@@ -290,9 +290,11 @@ private:
 
 	void start_reading();
 	void include_file(strings::ustring8 const &path);
+	catalog_t &catalog_to_fill(strings::ustring8 const &name);
 
 	std::vector<requested_language> m_languages;
 	std::map<strings::ustring8, catalog_t> m_catalogs;
+	document *m_document = nullptr;
 	strings::ustring8 m_draft_memory[3]; // of the message that is being read
 	strings::ustring8 m_include_base;
 	strings::ustring8 m_catalog_filter;
