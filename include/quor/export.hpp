@@ -29,6 +29,15 @@
 #  define QUOR_API
 #endif
 
+/// @def QUOR_LOCAL
+/// Marks a class inside an exported one that is the library's own, so that its members
+/// aren't exported.
+#if defined(__GNUC__) && !defined(_WIN32)
+#  define QUOR_LOCAL __attribute__((visibility("hidden")))
+#else
+#  define QUOR_LOCAL
+#endif
+
 /// @def QUOR_API_TYPE
 /// Marks an inline class that is an argument of exported templates.
 #if defined(__GNUC__) && !defined(_WIN32)

@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <vector>
 
+#include <quor/export.hpp>
 #include <quor/i18n/catalog.hpp>
 
 #include "i18n/compiled_message.hpp"
@@ -22,7 +23,7 @@ namespace QUOR_2_9::i18n {
 /// their names; those that a loader brought are made when they are asked for.
 ///
 /// Look-ups may be made by many threads at once, as long as nobody stores.
-class catalog_t::storage {
+class QUOR_LOCAL catalog_t::storage {
 	using allocator = support::node_allocator<element>;
 
 public:

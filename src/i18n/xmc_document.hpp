@@ -4,6 +4,7 @@
 #include <map>
 #include <string_view>
 
+#include <quor/export.hpp>
 #include <quor/i18n/xmc_file_loader.hpp>
 
 #include "i18n/message_storage.hpp"
@@ -14,7 +15,7 @@ namespace QUOR_2_9::i18n::_private {
 
 // A text that a loader is reading. Of a text that isn't well-formed nothing stays, which is
 // known at its end: until then its catalogs are kept apart.
-class xmc_file_loader::document {
+class QUOR_LOCAL xmc_file_loader::document {
 public:
 	document(xmc_file_loader &loader, std::string_view text)
 	    : m_loader(loader), m_outer(loader.m_document), m_text(text) {

@@ -1,3 +1,4 @@
+#include <quor/export.hpp>
 #include <quor/i18n/xmc_file_loader.hpp>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ using strings::ustring8;
 using load_error = xmc_file_loader::load_error;
 
 // One file further down; leaves the loader as it was, whatever ends the reading.
-class xmc_file_loader::include_level {
+class QUOR_LOCAL xmc_file_loader::include_level {
 public:
 	explicit include_level(xmc_file_loader &loader) : m_loader(loader), m_base(loader.m_include_base) {
 		++m_loader.m_include_depth;

@@ -1,12 +1,13 @@
 #ifndef QUOR_SRC_I18N_XMC_MERGING_HPP
 #define QUOR_SRC_I18N_XMC_MERGING_HPP
 
+#include <quor/export.hpp>
 #include <quor/i18n/xmc_file_loader.hpp>
 
 namespace QUOR_2_9::i18n::_private {
 
 // Puts what a loader has read into a map of catalogs, as `combine_data` is told to.
-class xmc_file_loader::merging {
+class QUOR_LOCAL xmc_file_loader::merging {
 public:
 	// The loader keeps what it has read.
 	static types::uint32 copy(xmc_file_loader const &from, catalog_map &to);

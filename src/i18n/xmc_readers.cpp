@@ -1,14 +1,12 @@
 #include <quor/i18n/xmc_file_loader.hpp>
 
-#include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include <quor/parser/xml_token_stream.hpp>
 
+#include "i18n/item_type_word.hpp"
 #include "i18n/message_storage.hpp"
 #include "parser/token_reader.hpp"
-#include "support/ascii.hpp"
 
 namespace QUOR_2_9::i18n::_private {
 
@@ -79,32 +77,6 @@ void add_space(message_draft &draft, bool behind_argument) {
 	if (draft.in_literal() ? draft.last_of_literal() != ' ' : behind_argument) {
 		draft.append_literal(' ');
 	}
-}
-
-message_item::type_t type_of(std::string_view word) noexcept {
-	static constexpr std::pair<std::string_view, message_item::type_t> words[] = {
-	    {"value", message_item::type_value},
-	    {"string", message_item::type_string},
-	    {"number", message_item::type_number},
-	    {"int", message_item::type_int},
-	    {"double", message_item::type_double},
-	    {"time", message_item::type_time},
-	    {"date", message_item::type_date},
-	    {"memory", message_item::type_memory},
-	    {"mem", message_item::type_memory},
-	    {"mem_unit", message_item::type_memory_unit},
-	    {"memory_unit", message_item::type_memory_unit},
-	    {"metric", message_item::type_metric},
-	    {"metric_unit", message_item::type_metric_unit},
-	    {"duration", message_item::type_duration},
-	};
-	for (auto const &[text, type] : words) {
-		if (std::equal(text.begin(), text.end(), word.begin(), word.end(),
-		               [](char lower, char unit) { return support::to_lower(unit) == lower; })) {
-			return type;
-		}
-	}
-	return message_item::type_string;
 }
 
 // Reads a `br` element whose start stands here.
@@ -352,7 +324,7 @@ message_item::type_t xmc_file_loader::read_argument(Iterator &it, Iterator const
 			draft.append(name);
 		} else if (value_of(it) == "type") {
 			++it;
-			type = type_of(it == end ? std::string_view() : value_of(it));
+			type = detail::type_of_word(it == end ? std::string_view() : value_of(it));
 			if (it != end) {
 				++it;
 			}
@@ -381,7 +353,7 @@ message_item::type_t xmc_file_loader::read_argument(Iterator &it, Iterator const
 }
 
 message_item::type_t xmc_file_loader::parse_message_type(ustring8 const &word) const {
-	return type_of(word);
+	return detail::type_of_word(word);
 }
 
 template load_error xmc_file_loader::read_document(parser::token_reader::iterator,

@@ -4,6 +4,7 @@
 #include <list>
 #include <type_traits>
 
+#include <quor/export.hpp>
 #include <quor/parser/xml_token_stream.hpp>
 
 #include "support/node_blocks.hpp"
@@ -11,7 +12,7 @@
 namespace QUOR_2_9::parser {
 
 // The list of a token stream, whose tokens are only ever appended.
-class xml_token_stream::storage {
+class QUOR_LOCAL xml_token_stream::storage {
 	using allocator = support::node_allocator<token>;
 
 	support::node_blocks m_blocks;

@@ -1,3 +1,4 @@
+#include <quor/export.hpp>
 #include <quor/parser/xml_parser.hpp>
 
 #include <cstddef>
@@ -13,7 +14,7 @@ using strings::ustring8;
 // One reading of a parser's text. Hands the events on to the delegates, in the same strings
 // again and again. The caller's iterator goes where the reader goes, and is there whenever
 // somebody else comes to see it: in a delegate and when the reading is over.
-class xml_parser::reading {
+class QUOR_LOCAL xml_parser::reading {
 public:
 	reading(xml_parser const &parser, const_iterator &it, const_iterator const &end)
 	    : m_parser(parser), m_it(it), m_begin(it), m_text(std::to_address(it)),
@@ -89,7 +90,17 @@ xml_parser::parse_error xml_parser::parse(const_iterator begin, const_iterator e
 }
 
 xml_parser::parse_error xml_parser::do_parse(const_iterator &begin, const_iterator const &end) const {
-	return reading(*this, begin, end)->read();
+	reading text(*this, begin, end);
+	try {
+		text->start();
+		while (!text->is_at_end()) {
+			text->step();
+		}
+		text->finish();
+	} catch (parse_error const &error) {
+		return error;
+	}
+	return parse_error(parse_error::error_none, 0, ustring8());
 }
 
 ustring8 xml_parser::parse_name(const_iterator &it, const_iterator const &end) const {

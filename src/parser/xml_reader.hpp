@@ -32,21 +32,8 @@ public:
 	// Where the reading ended, or the fault.
 	char const *at() const noexcept { return m_at; }
 
-	xml_parser::parse_error read() {
-		try {
-			start();
-			while (!is_at_end()) {
-				step();
-			}
-			finish();
-		} catch (parse_error const &error) {
-			return error;
-		}
-		return parse_error(parse_error::error_none, 0, strings::ustring8());
-	}
-
-	// The same in steps: the header, then pieces up to the end, each with a few events; at the
-	// end it is known whether there is something left open. A fault is thrown.
+	// A reading is the header, then pieces up to the end, each with a few events; at the end it
+	// is known whether something is left open. A fault is thrown.
 	void start() {
 		m_state.line = 0;
 		m_state.in_tag = false;

@@ -39,8 +39,9 @@ namespace QUOR_2_9::i18n {
 /// stay valid until the catalog is assigned or destroyed; storing a message under the same
 /// name changes the one that the reference leads to.
 ///
-/// Thread-safety: one thread at a time, readers too: the set of languages is made inside
-/// const operations when it is first asked for.
+/// Thread-safety: messages may be looked up and walked by several threads while nobody stores
+/// any. Languages are asked for by one thread at a time: their set is made inside const
+/// operations when it is first asked for.
 /// @since 2.9
 class QUOR_API catalog_t : public generic::abilities::reference_count_pointer_ability<catalog_t> {
 public:

@@ -41,7 +41,8 @@ namespace QUOR_2_9::i18n {
 /// References to catalogs and messages end with the last set that shares the catalog, or
 /// with its `erase`; a load that replaces a message changes the text behind the reference.
 ///
-/// Thread-safety: one thread at a time, and so for all sets that share catalogs.
+/// Thread-safety: messages may be looked up by several threads while nobody loads, erases or asks
+/// for languages, in this set or in one that shares catalogs with it.
 /// @since 2.9
 class QUOR_API message_catalogs : public load_result_types {
 public:

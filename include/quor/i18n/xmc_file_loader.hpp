@@ -122,8 +122,7 @@ public:
 		/// @since 2.9
 		static strings::ustring8 format_msg(append_type type, strings::ustring8 const &data);
 
-		/// Adds a context line to the text.
-		/// @since 2.9
+		/// Adds a context line to the text. @since 2.9
 		void append_error_stack(append_type type, strings::ustring8 const &data);
 
 		/// The text with the context lines added so far.
@@ -156,25 +155,21 @@ public:
 	/// @throws std::bad_alloc, std::length_error where a file doesn't fit into memory.
 	/// @since 2.9
 	load_error parse(strings::ustring8 const &file);
-	/// The same, for a requested language too. @since 2.9
+	/// The same, for a requested language too, for the catalogs of one name only (an empty
+	/// name: all), and for arguments in UTF-16 and UTF-32. @since 2.9
+	/// @{
 	load_error parse(strings::ustring8 const &file, strings::ustring8 const &language);
-	/// The same, for the catalogs of one name only (an empty name: all). @since 2.9
 	load_error parse(strings::ustring8 const &file, strings::ustring8 const &language,
 	                 strings::ustring8 const &catalog);
-	/// The same for UTF-16 paths. @since 2.9
 	load_error parse(strings::ustring16 const &file);
-	/// The same for UTF-16 arguments. @since 2.9
 	load_error parse(strings::ustring16 const &file, strings::ustring16 const &language);
-	/// The same for UTF-16 arguments. @since 2.9
 	load_error parse(strings::ustring16 const &file, strings::ustring16 const &language,
 	                 strings::ustring16 const &catalog);
-	/// The same for UTF-32 paths. @since 2.9
 	load_error parse(strings::ustring32 const &file);
-	/// The same for UTF-32 arguments. @since 2.9
 	load_error parse(strings::ustring32 const &file, strings::ustring32 const &language);
-	/// The same for UTF-32 arguments. @since 2.9
 	load_error parse(strings::ustring32 const &file, strings::ustring32 const &language,
 	                 strings::ustring32 const &catalog);
+	/// @}
 
 	/// Reads a file with the languages and the filter as they are. One zero byte is
 	/// parsed behind the file's own, so a file that ends in "<" is an unexpected character.
@@ -200,21 +195,18 @@ public:
 	/// @since 2.9
 	types::uint32 get_locale_weight(strings::ustring8 const &language) const;
 
-	/// Whether an id is accepted.
-	/// @since 2.9
+	/// Whether an id is accepted. @since 2.9
 	bool is_lang_id_good(strings::ustring8 const &language) const;
 
-	/// Whether only one catalog name is wanted.
-	/// @since 2.9
+	/// Whether only one catalog name is wanted. @since 2.9
 	bool is_cat_id_set() const noexcept;
 
 	/// Whether a catalog of this name is wanted. @since 2.9
 	bool is_catalog_matched(strings::ustring8 const &name) const noexcept;
 
-	/// Adds ".", "en", and an id with all its beginnings to the accepted languages.
-	/// Note: an id that begins with "_" has the empty id among its beginnings, and so
-	/// accepts catalogs without a language. Memory: linear in the id.
-	/// @since 2.9
+	/// Adds ".", "en", and an id with all its beginnings to the accepted languages. An id that
+	/// begins with "_" has the empty one among these, and so accepts catalogs without a
+	/// language. Memory: linear in the id. @since 2.9
 	void handle_language(strings::ustring8 const &language);
 
 	/// Does nothing. @since 2.9
