@@ -9,7 +9,7 @@
 #include <quor/system/io.hpp>
 
 #include "i18n/message_storage.hpp"
-#include "i18n/xmc_document.hpp"
+#include "i18n/xmc_text_being_read.hpp"
 #include "parser/token_reader.hpp"
 
 namespace QUOR_2_9::i18n::_private {
@@ -134,7 +134,7 @@ load_error xmc_file_loader::parse(ustring32 const &file, ustring32 const &langua
 
 load_error xmc_file_loader::read_text(std::string_view text, ustring8 const &file) {
 	parser::token_reader tokens(text);
-	document here(*this, text);
+	text_being_read here(*this, text);
 	load_error result(load_none, ustring8());
 	try {
 		try {
@@ -183,8 +183,8 @@ void xmc_file_loader::include_file(ustring8 const &path) {
 	if (m_include_depth == max_include_depth || m_file_count == max_files) {
 		throw load_error(load_unexpected, ustring8());
 	}
-	if (m_document != nullptr) {
-		m_document->check();
+	if (m_text_being_read != nullptr) {
+		m_text_being_read->check();
 	}
 	include_level const level(*this);
 	load_error const result = parse_file(is_whole_path(path) ? path : m_include_base + path);
@@ -194,7 +194,7 @@ void xmc_file_loader::include_file(ustring8 const &path) {
 }
 
 catalog_t &xmc_file_loader::catalog_to_fill(ustring8 const &name) {
-	return m_document != nullptr ? m_document->catalog(name) : m_catalogs[name];
+	return m_text_being_read != nullptr ? m_text_being_read->catalog(name) : m_catalogs[name];
 }
 
 void xmc_file_loader::set_message(message_t const &message, ustring8 const &catalog) {

@@ -264,7 +264,7 @@ private:
 		types::uint32 first;
 	};
 
-	class document;
+	class text_being_read;
 	class include_level;
 	class merging;
 
@@ -286,7 +286,7 @@ private:
 
 	std::vector<requested_language> m_languages;
 	std::map<strings::ustring8, catalog_t> m_catalogs;
-	document *m_document = nullptr;
+	text_being_read *m_text_being_read = nullptr;
 	strings::ustring8 m_draft_memory[3]; // of the message that is being read
 	strings::ustring8 m_include_base;
 	strings::ustring8 m_catalog_filter;

@@ -1,5 +1,5 @@
-#ifndef QUOR_SRC_I18N_XMC_DOCUMENT_HPP
-#define QUOR_SRC_I18N_XMC_DOCUMENT_HPP
+#ifndef QUOR_SRC_I18N_XMC_TEXT_BEING_READ_HPP
+#define QUOR_SRC_I18N_XMC_TEXT_BEING_READ_HPP
 
 #include <map>
 #include <string_view>
@@ -15,15 +15,15 @@ namespace QUOR_2_9::i18n::_private {
 
 // A text that a loader is reading. Of a text that isn't well-formed nothing stays, which is
 // known at its end: until then its catalogs are kept apart.
-class QUOR_LOCAL xmc_file_loader::document {
+class QUOR_LOCAL xmc_file_loader::text_being_read {
 public:
-	document(xmc_file_loader &loader, std::string_view text)
-	    : m_loader(loader), m_outer(loader.m_document), m_text(text) {
-		m_loader.m_document = this;
+	text_being_read(xmc_file_loader &loader, std::string_view text)
+	    : m_loader(loader), m_outer(loader.m_text_being_read), m_text(text) {
+		m_loader.m_text_being_read = this;
 	}
-	~document() { m_loader.m_document = m_outer; }
-	document(document const &) = delete;
-	document &operator=(document const &) = delete;
+	~text_being_read() { m_loader.m_text_being_read = m_outer; }
+	text_being_read(text_being_read const &) = delete;
+	text_being_read &operator=(text_being_read const &) = delete;
 
 	catalog_t &catalog(strings::ustring8 const &name) {
 		return m_is_settled ? m_loader.m_catalogs[name] : m_catalogs[name];
@@ -55,7 +55,7 @@ public:
 
 private:
 	xmc_file_loader &m_loader;
-	document *m_outer;
+	text_being_read *m_outer;
 	std::string_view m_text;
 	std::map<strings::ustring8, catalog_t> m_catalogs;
 	bool m_is_settled = false;
