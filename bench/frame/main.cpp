@@ -37,8 +37,8 @@ void operation(std::string const &name, std::string const &competitor, std::func
 	benchmark::RegisterBenchmark((name + "/" + competitor).c_str(), std::move(run));
 }
 
-void limit(std::string const &operation, std::string const &peer, double most, double aim) {
-	tell("limit", operation + "/" + peer, decimal(most) + " " + decimal(aim));
+void limit(std::string const &operation, std::string const &peer, double most, double aim, double extra_ns) {
+	tell("limit", operation + "/" + peer, decimal(most) + " " + decimal(aim) + " " + decimal(extra_ns));
 }
 
 void figure(std::string const &name, std::string const &competitor, double value) {

@@ -13,6 +13,7 @@ import pathlib
 import platform
 import re
 import sys
+import typing
 
 LIBRARY = "quor"
 HEAD = """# Benchmark results
@@ -21,7 +22,8 @@ Written by `tools/bench`; the programs stand in `bench/`. All competitors of an 
 one process on the same input, in turns whose order is random, and are first checked to give the
 same results. Times are medians of processor time; only the ratios compare from one machine to
 another. A limit is what we hold ourselves to (`tools/bench` fails beyond it), an aim what we
-would like.
+would like. A limit such as "0.25 + 2 ns" allows the call of an operation of a few nanoseconds
+that much more than the ratio; the aim is a ratio alone.
 """
 
 
@@ -29,6 +31,20 @@ def split(text, by="/"):
     """"operation/competitor" in its two parts; a competitor has no slash."""
     left, _, right = text.rpartition(by)
     return left, right
+
+
+class Limit(typing.NamedTuple):
+    most: float  # times the peer
+    aim: float  # times the peer; 0 for none
+    extra_ns: float  # on top of it
+
+    def at(self, peer_time):
+        """The ratio that is allowed to a peer of that time."""
+        return self.most + self.extra_ns * 1e-9 / peer_time
+
+    def text(self):
+        most = f"{self.most:.3g}" + (f" + {self.extra_ns:g} ns" if self.extra_ns else "")
+        return f"{most}, aim {self.aim:.3g}" if self.aim else most
 
 
 class Area:
@@ -46,14 +62,14 @@ class Area:
                 operation, competitor = split(run["run_name"])
                 self.times.setdefault(operation, {})[competitor] = seconds(run)
                 self.repetitions = run["repetitions"]
-        self.limits = {}  # operation -> peer -> (limit, aim)
+        self.limits = {}  # operation -> peer -> Limit
         self.figures = {}  # figure -> competitor -> number
         self.bounds = {}  # figure -> number
         for key, value in data["context"].items():
             kind, _, name = key.partition(": ")
             if kind == "limit":
                 operation, peer = split(name)
-                self.limits.setdefault(operation, {})[peer] = tuple(map(float, value.split()))
+                self.limits.setdefault(operation, {})[peer] = Limit(*map(float, value.split()))
             elif kind == "figure":
                 figure, competitor = split(name)
                 self.figures.setdefault(figure, {})[competitor] = float(value)
@@ -66,13 +82,14 @@ class Area:
             own = times.get(LIBRARY)
             limits = self.limits.get(operation, {})
             for peer in list(limits) + [name for name in times if name not in limits and name != LIBRARY]:
-                most, aim = limits.get(peer, (0, 0))
+                limit = limits.get(peer)
                 row = [operation, duration(own), peer, duration(times.get(peer))]
                 if own is None or peer not in times:
-                    yield row + ["", limit_text(most, aim), "not measured"]
+                    yield row + ["", limit.text() if limit else "", "not measured"]
                     continue
                 ratio = own / times[peer]
-                yield row + [f"{ratio:.2f}", limit_text(most, aim), self.judge(f"{operation}, {peer}", ratio, most, aim)]
+                met = limit and self.judge(f"{operation}, {peer}", ratio, limit.at(times[peer]), limit.aim)
+                yield row + [f"{ratio:.2f}", limit.text() if limit else "", met or ""]
 
     def figure_rows(self):
         for figure, numbers in self.figures.items():
@@ -82,13 +99,11 @@ class Area:
             if own is None or most is None:
                 yield [figure, short(own), peers, "" if most is None else short(most), ""]
             else:
-                yield [figure, short(own), peers, short(most), self.judge(figure, own, most, 0)]
+                yield [figure, short(own), peers, short(most), self.judge(figure, own, most)]
 
-    def judge(self, what, value, most, aim):
-        if most == 0 and aim == 0 and what not in self.bounds:
-            return ""
+    def judge(self, what, value, most, aim=0):
         if value > most:
-            self.broken.append(f"{self.name}: {what}: {value:.3g} is more than {most:g}")
+            self.broken.append(f"{self.name}: {what}: {value:.3g} is more than {most:.3g}")
             return "**no**"
         if aim == 0:
             return "yes"
@@ -127,12 +142,6 @@ def duration(value):
 
 def short(value):
     return "" if value is None else f"{value:.3g}"
-
-
-def limit_text(most, aim):
-    if most == 0:
-        return ""
-    return f"{most:g}" if aim == 0 else f"{most:g}, aim {aim:g}"
 
 
 def table(head, alignment, rows):
