@@ -175,6 +175,25 @@ template <class Unit>
 	return {number * weight + block::value(last), faults == 0};
 }
 
+/// A number of 1 to 8 digits that is the whole text.
+template <class Block, class Unit>
+[[gnu::always_inline]] inline block_reading read_short(Unit const *text, std::size_t size) noexcept {
+	std::uint64_t const digits = Block::digits(load_short(text, size), shift_of(size));
+	return {Block::value(digits), Block::faults(digits) == 0};
+}
+
+/// A decimal number of 1 to 8 digits that is the whole text.
+template <class Unit>
+[[gnu::always_inline]] inline block_reading read_decimal(Unit const *text, std::size_t size) noexcept {
+	return read_short<decimal_block>(text, size);
+}
+
+/// A hexadecimal number of 1 to 8 digits that is the whole text.
+template <class Unit>
+[[gnu::always_inline]] inline block_reading read_hexadecimal(Unit const *text, std::size_t size) noexcept {
+	return read_short<hexadecimal_block>(text, size);
+}
+
 /// The number at the start of a text that has at least one unit; the first unit that is no
 /// digit ends it. Unknown where there may be more than eight digits.
 template <class Block, class Unit>

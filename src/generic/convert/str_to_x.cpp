@@ -4,13 +4,14 @@
 #include <quor/exceptions/runtime_error.hpp>
 #include <quor/strings/unichar.hpp>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
 
 #include "generic/convert/digit_blocks.hpp"
+#include "generic/convert/digit_values.hpp"
+#include "generic/convert/digit_vectors.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::generic::convert {
@@ -58,26 +59,6 @@ std::int64_t unit_value(char unit) noexcept {
 template <class Unit>
 std::int64_t unit_value(Unit unit) noexcept {
 	return static_cast<std::int64_t>(unit);
-}
-
-constexpr uint32 no_digit = 0xFF;
-
-/// The values of ASCII digits and letters.
-constexpr auto digit_values = [] {
-	std::array<unsigned char, 128> values{};
-	for (unsigned int c = 0; c != values.size(); ++c) {
-		values[c] = static_cast<unsigned char>(support::is_digit(c)    ? c - '0'
-		                                       : support::is_letter(c) ? support::to_lower(c) - 'a' + 10
-		                                                               : no_digit);
-	}
-	return values;
-}();
-
-/// The value of a digit in any radix, or `no_digit`, which is above all.
-template <class Unit>
-uint32 digit_value(Unit unit) noexcept {
-	auto const c = static_cast<std::make_unsigned_t<Unit>>(unit);
-	return c < digit_values.size() ? digit_values[c] : no_digit;
 }
 
 /// A text on the way to its first digit.
@@ -180,7 +161,7 @@ bool read_digits(cursor<Unit> &at, uint32 radix, Result limit, Result &value) no
 	Result const bound = static_cast<Result>(quotient);
 	Result const last_digit = static_cast<Result>(limit_bits - quotient * radix);
 	for (;;) {
-		uint32 const digit = digit_value(at.text[at.index]);
+		uint32 const digit = detail::digit_value(at.text[at.index]);
 		if (digit >= radix) {
 			return true;
 		}
@@ -260,48 +241,85 @@ Result read_any(Unit const *text, uint32 length, uint32 radix, bool throw_on_ran
 	}
 }
 
-/// Reads a text that is nothing but a decimal number of more than eight digits.
+#ifdef __SSE2__
+namespace blocks = detail::vectors;
+#else
+namespace blocks = detail;
+#endif
+
+/// A text that may be nothing but digits behind an optional `-`.
 template <class Result, class Unit>
-[[gnu::noinline]] Result read_long(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
-	bool const negative = std::is_signed_v<Result> && *text == static_cast<Unit>('-');
-	Unit const *const digits = text + (negative ? 1 : 0);
-	std::size_t const size = std::size_t(length) - (negative ? 1 : 0);
-	if (size - 9 <= detail::most_digits - 9 &&
-	    (radix == 10 || (radix == 0 && support::is_between(*digits, '1', '9')))) {
-		auto const [number, known] = detail::read_long(digits, size);
-		if (known && fits<Result>(number, negative)) {
-			return with_sign<Result>(number, negative);
+struct plain_text {
+	plain_text(Unit const *text, uint32 length) noexcept
+	    : sign(std::is_signed_v<Result> && *text == static_cast<Unit>('-') ? 1 : 0), negative(sign != 0),
+	      digits(text + sign), size(std::size_t(length) - sign) {}
+
+	/// A detected radix is 10 where the first digit isn't zero.
+	bool is_decimal(uint32 radix) const noexcept {
+		return radix == 10 || (radix == 0 && support::is_between(*digits, '1', '9'));
+	}
+
+	std::size_t sign;
+	bool negative;
+	Unit const *digits;
+	/// Length 0 wraps.
+	std::size_t size;
+};
+
+/// Reads a text that is nothing but a number of at most three digits.
+template <class Result, class Unit>
+[[gnu::noinline]] Result read_few(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	plain_text<Result, Unit> const plain(text, length);
+	uint32 const known_radix = plain.is_decimal(radix) ? 10 : radix;
+	if (plain.size - 1 < 3 && (known_radix == 10 || known_radix == 16)) [[likely]] {
+		auto const [number, known] = detail::read_few(plain.digits, plain.size, known_radix);
+		if (known) {
+			return with_sign<Result>(number, plain.negative);
 		}
 	}
 	return read_any<Result>(text, length, radix, throw_on_range);
 }
 
-/// Reads a text that is nothing but a number of at most eight digits, as most are.
+/// Reads a text that is nothing but a decimal number of more than eight digits.
 template <class Result, class Unit>
-[[gnu::noinline]] Result read(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
-	bool const negative = std::is_signed_v<Result> && *text == static_cast<Unit>('-');
-	Unit const *const first = text + (negative ? 1 : 0);
-	std::size_t const size = std::size_t(length) - (negative ? 1 : 0);
-	// Size 0 wraps.
-	if (size - 1 < 8) {
-		// A detected radix is 10 where the first digit isn't zero.
-		if (radix == 10 || (radix == 0 && support::is_between(*first, '1', '9'))) {
-			using block = detail::decimal_block;
-			std::uint64_t const digits = block::digits(detail::load_short(first, size), detail::shift_of(size));
-			if (block::faults(digits) == 0) {
-				return with_sign<Result>(block::value(digits), negative);
-			}
-		} else if (radix == 16 && !negative) {
-			using block = detail::hexadecimal_block;
-			std::uint64_t const digits = block::digits(detail::load_short(first, size), detail::shift_of(size));
-			std::uint64_t const number = block::value(digits);
-			if (block::faults(digits) == 0 && fits<Result>(number, false)) {
-				return static_cast<Result>(number);
+[[gnu::noinline]] Result read_long(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	plain_text<Result, Unit> const plain(text, length);
+	if (plain.size <= detail::most_digits && plain.is_decimal(radix)) {
+		auto const [number, known] = blocks::read_long(plain.digits, plain.size);
+		if (known && fits<Result>(number, plain.negative)) {
+			return with_sign<Result>(number, plain.negative);
+		}
+	}
+	return read_any<Result>(text, length, radix, throw_on_range);
+}
+
+/// Reads a text that is nothing but a number of four to eight digits. Each of the three has
+/// registers enough for itself; together they hadn't.
+template <class Result, class Unit>
+[[gnu::always_inline]] inline Result read(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
+	plain_text<Result, Unit> const plain(text, length);
+	if (plain.size - 4 > 4) {
+		if (plain.size == 1 && radix == 10) {
+			uint32 const digit = detail::digit_value(*plain.digits);
+			if (digit < 10) {
+				return with_sign<Result>(digit, plain.negative);
 			}
 		}
-		return read_any<Result>(text, length, radix, throw_on_range);
+		return plain.size - 9 <= detail::most_digits ? read_long<Result>(text, length, radix, throw_on_range)
+		                                             : read_few<Result>(text, length, radix, throw_on_range);
 	}
-	return read_long<Result>(text, length, radix, throw_on_range);
+	if (plain.is_decimal(radix)) {
+		auto const [number, known] = blocks::read_decimal(plain.digits, plain.size);
+		if (known) {
+			return with_sign<Result>(number, plain.negative);
+		}
+	} else if (radix == 16 && !plain.negative) {
+		auto const [number, known] = blocks::read_hexadecimal(plain.digits, plain.size);
+		if (known && fits<Result>(number, false)) {
+			return static_cast<Result>(number);
+		}
+	}
+	return read_any<Result>(text, length, radix, throw_on_range);
 }
 
 /// The numbers of 8 and 16 bits are too rare for routines of their own.
