@@ -39,6 +39,37 @@ std::string_view word_of(double value) noexcept {
 	return value < 0 ? "-inf" : "inf";
 }
 
+constexpr int fraction_bits = 52;
+
+/// A finite number that is at least the smallest normal one: a whole number of 53 bits times 2
+/// to the power of `exponent - fraction_bits`.
+struct binary {
+	std::uint64_t mantissa;
+	int exponent;
+};
+
+binary binary_of(double magnitude) noexcept {
+	constexpr int bias = 1023;
+	constexpr std::uint64_t first_bit = std::uint64_t(1) << fraction_bits;
+	auto const bits = std::bit_cast<std::uint64_t>(magnitude);
+	return {(bits & (first_bit - 1)) | first_bit, static_cast<int>(bits >> fraction_bits) - bias};
+}
+
+/// `number * power / 2^shift`, rounded to a whole number of 64 bits: exactly, ties to even. The
+/// power has at most 44 bits and the shift is 1 to 63.
+std::uint64_t scaled(std::uint64_t number, std::uint64_t power, int shift) noexcept {
+	constexpr std::uint64_t low_half = 0xFFFFFFFF;
+	std::uint64_t const low_product = (number & low_half) * (power & low_half);
+	std::uint64_t const middle =
+	    (low_product >> 32) + (number >> 32) * (power & low_half) + (number & low_half) * (power >> 32);
+	std::uint64_t const low = middle << 32 | (low_product & low_half);
+	std::uint64_t const high = (number >> 32) * (power >> 32) + (middle >> 32);
+	std::uint64_t const whole = high << (64 - shift) | low >> shift;
+	std::uint64_t const rest = low << (64 - shift);
+	constexpr std::uint64_t half = std::uint64_t(1) << 63;
+	return whole + (rest > half || (rest == half && whole % 2 != 0) ? 1 : 0);
+}
+
 /// The significant digits of a finite number without its trailing zeros (at least one
 /// digit stays) and the decimal exponent of the first one.
 struct significant {
@@ -47,13 +78,49 @@ struct significant {
 	int exponent;
 };
 
-significant significant_digits(double value, int digits) noexcept {
+/// Leaves `count` digits without their trailing zeros.
+void drop_zeros(significant &number, int count) noexcept {
+	while (count > 1 && number.text[count - 1] == '0') {
+		--count;
+	}
+	number.count = count;
+}
+
+/// The digits of the usual numbers: those that a power of ten of 44 bits makes whole numbers of as
+/// many digits as are wanted. False for others.
+bool find_digits_at_once(double magnitude, int digits, significant &result) noexcept {
+	constexpr int smallest_exponent = -11;
+	constexpr int largest_exponent = 51;
+	constexpr int largest_power = 13;
+	constexpr int longest = 17;
+	binary const number = binary_of(magnitude);
+	if (number.exponent < smallest_exponent || number.exponent > largest_exponent || digits > longest) {
+		return false;
+	}
+	// The decimal exponent, or one less than that: 1233 / 4096 is the logarithm of 2.
+	int exponent = number.exponent * 1233 >> 12;
+	for (;; ++exponent) {
+		int const power = digits - 1 - exponent;
+		if (power < 0 || power > largest_power) {
+			return false;
+		}
+		std::uint64_t const ten = power == 0 ? 1 : decimal_powers[static_cast<std::size_t>(power)];
+		std::uint64_t const whole = scaled(number.mantissa, ten, fraction_bits - number.exponent);
+		if (whole < decimal_powers[static_cast<std::size_t>(digits)]) {
+			write_decimal(whole, result.text);
+			result.exponent = exponent;
+			drop_zeros(result, digits);
+			return true;
+		}
+	}
+}
+
+/// The digits of any finite number.
+void find_digits(double magnitude, int digits, significant &result) noexcept {
 	char printed[most_digits + 8];
 	auto const end =
-	    std::to_chars(printed, printed + sizeof printed, std::fabs(value), std::chars_format::scientific, digits - 1)
-	        .ptr;
+	    std::to_chars(printed, printed + sizeof printed, magnitude, std::chars_format::scientific, digits - 1).ptr;
 	char const *const mark = std::find(static_cast<char const *>(printed), static_cast<char const *>(end), 'e');
-	significant result;
 	result.exponent = 0;
 	std::from_chars(mark + 2, end, result.exponent);
 	if (mark[1] == '-') {
@@ -63,11 +130,7 @@ significant significant_digits(double value, int digits) noexcept {
 	if (digits > 1) {
 		std::copy(static_cast<char const *>(printed) + 2, mark, result.text + 1);
 	}
-	result.count = digits;
-	while (result.count > 1 && result.text[result.count - 1] == '0') {
-		--result.count;
-	}
-	return result;
+	drop_zeros(result, digits);
 }
 
 void put_exponent(writer &out, int exponent) noexcept {
@@ -156,32 +219,15 @@ std::size_t print(double value, int precision, char *buffer, std::size_t size, s
 	return printed.ec == std::errc() ? static_cast<std::size_t>(printed.ptr - buffer) : 0;
 }
 
-/// A number below 2^52 in magnitude, times a small power of ten, rounded to a whole number:
-/// exactly, ties to even.
-std::uint64_t scaled(double magnitude, std::uint64_t power) noexcept {
-	constexpr unsigned int fraction_bits = 52;
-	constexpr unsigned int bias = 1023;
-	auto const bits = std::bit_cast<std::uint64_t>(magnitude);
-	auto const exponent = static_cast<unsigned int>(bits >> fraction_bits);
-	std::uint64_t const fraction = bits & ((std::uint64_t(1) << fraction_bits) - 1);
-	// A number without exponent is far too small to show.
-	unsigned int const shift = bias + fraction_bits - exponent;
-	if (exponent == 0 || shift >= 64) {
-		return 0;
-	}
-	std::uint64_t const product = (fraction | std::uint64_t(1) << fraction_bits) * power;
-	std::uint64_t const whole = product >> shift;
-	std::uint64_t const rest = product << (64 - shift);
-	constexpr std::uint64_t half = std::uint64_t(1) << 63;
-	return whole + (rest > half || (rest == half && whole % 2 != 0) ? 1 : 0);
-}
-
 /// Writes a number below 2^52 in magnitude with so few decimals that, without the point, it is a
 /// whole number of 64 bits.
 template <int Precision>
 std::size_t write_fixed(double magnitude, bool negative, char *buffer) noexcept {
 	constexpr std::uint64_t power = Precision == 0 ? 1 : Precision == 1 ? 10 : Precision == 2 ? 100 : 1000;
-	std::uint64_t const number = scaled(magnitude, power);
+	binary const parts = binary_of(magnitude);
+	// A smaller number is far too small to show, the one without mantissa too.
+	std::uint64_t const number =
+	    parts.exponent < -11 ? 0 : scaled(parts.mantissa, power, fraction_bits - parts.exponent);
 	char *end = buffer;
 	if (negative) {
 		*end++ = '-';
@@ -230,7 +276,10 @@ std::size_t gcvt(double value, int digits, char *buffer) noexcept {
 		return out.size();
 	}
 	digits = std::clamp(digits, 1, most_digits);
-	significant const number = significant_digits(value, digits);
+	significant number;
+	if (!find_digits_at_once(std::fabs(value), digits, number)) {
+		find_digits(std::fabs(value), digits, number);
+	}
 	std::string_view const all(number.text, static_cast<std::size_t>(number.count));
 	if (std::signbit(value)) {
 		out.put('-');

@@ -171,6 +171,35 @@ TEST(decimal_text, gcvt_has_the_digits_of_the_exponent_form) {
 	}
 }
 
+// The usual numbers are rounded in whole numbers: ties, their neighbours, powers of ten, and the
+// bounds of that way.
+TEST(decimal_text, gcvt_of_usual_numbers_has_the_digits_of_the_exponent_form) {
+	std::mt19937_64 random(26);
+	auto const agree = [](double value, int digits) {
+		for (double const near : {std::nextafter(value, -infinity), value, std::nextafter(value, infinity)}) {
+			ASSERT_EQ(gcvt(near, digits), quor_reference::significant_text(near, static_cast<std::uint32_t>(digits)));
+			ASSERT_EQ(gcvt(-near, digits), quor_reference::significant_text(-near, static_cast<std::uint32_t>(digits)));
+		}
+	};
+	for (int digits = 1; digits <= 19; ++digits) {
+		for (int exponent = -13; exponent <= 54; ++exponent) {
+			agree(std::ldexp(1.0, exponent), digits);
+			for (int round = 0; round != 10; ++round) {
+				double const mantissa = 1 + std::ldexp(static_cast<double>(random() >> 12), -52);
+				agree(std::ldexp(mantissa, exponent), digits);
+				// So few bits that what is cut off is often a half.
+				agree(std::ldexp(static_cast<double>(random() % 4096 + 1), exponent - 12), digits);
+			}
+		}
+		for (int power = -5; power <= 18; ++power) {
+			double const ten = std::pow(10.0, power);
+			agree(ten, digits);
+			agree(ten * (1 - std::pow(10.0, -digits) / 2), digits);
+			agree(ten * 9.5, digits);
+		}
+	}
+}
+
 TEST(decimal_text, gcvt_with_17_digits_reads_back_exactly) {
 	std::mt19937_64 random(22);
 	for (int round = 0; round != 20000; ++round) {
