@@ -3,8 +3,6 @@
 
 #include <quor/types/variant_type.hpp>
 
-#include <utility>
-
 #include <quor/generic/convert/str_to_x.hpp>
 #include <quor/types/radix.hpp>
 
@@ -50,9 +48,6 @@ QUOR_INTEGER_SLOT(uint32, as_uint32, str_to_uint32)
 QUOR_INTEGER_SLOT(uint64, as_uint64, str_to_uint64)
 
 #undef QUOR_INTEGER_SLOT
-
-template <class T>
-variant_value_t<T>::variant_value_t(T value) : m_value(std::move(value)) {}
 
 template <class T>
 variant_value_t<T>::~variant_value_t() = default;

@@ -17,6 +17,7 @@
 #include <iosfwd>
 #include <string>
 #include <typeinfo>
+#include <utility>
 
 #include <quor/export.hpp>
 #include <quor/generic/abilities/clone_ability.hpp>
@@ -112,7 +113,7 @@ template <class T>
 class QUOR_API variant_value_t final : public variant_type {
 public:
 	/// Holds `value`. @since 2.9
-	explicit variant_value_t(T value);
+	explicit variant_value_t(T value) : m_value(std::move(value)) {}
 	/// Destroys the value. @since 2.9
 	~variant_value_t() override;
 
