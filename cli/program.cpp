@@ -55,13 +55,27 @@ private:
 	quor::debug::invalid_parameter_handler m_invalid;
 };
 
+// The words for this command. What stands behind "--" belongs to the program whose settings
+// are explained; elsewhere it is names alone, of which those with a dash in front are files.
+std::vector<std::string> own_words(std::vector<std::string> const &all, std::vector<std::string> &behind) {
+	auto const separator = std::find(all.begin(), all.end(), "--");
+	std::vector<std::string> words(all.begin(), separator);
+	if (separator == all.end()) {
+		return words;
+	}
+	behind.assign(separator + 1, all.end());
+	if (words.empty() || words.front() != "config") {
+		for (std::string const &each : behind) {
+			words.push_back(each.rfind('-', 0) == 0 ? "./" + each : each);
+		}
+	}
+	return words;
+}
+
 int run_parsed(invocation const &call, terminal &to) {
-	// What stands behind "--" belongs to the program whose settings are explained.
-	auto const separator = std::find(call.arguments.begin(), call.arguments.end(), "--");
-	std::vector<std::string> const program_arguments(separator == call.arguments.end() ? separator : separator + 1,
-	                                                 call.arguments.end());
-	// The parser takes its words from the back.
-	std::vector<std::string> words(std::make_reverse_iterator(separator), call.arguments.rend());
+	std::vector<std::string> program_arguments;
+	std::vector<std::string> words = own_words(call.arguments, program_arguments);
+	std::reverse(words.begin(), words.end()); // the parser takes them from the back
 
 	CLI::App app(description, "quor");
 	app.footer(examples);
@@ -105,7 +119,11 @@ int run(invocation const &call) {
 	            err_is_terminal()};
 	int const status = run(call, to);
 	std::cout.flush();
-	return std::cout ? status : exit_unusable;
+	if (!std::cout) {
+		std::cerr << "quor: the output can't be written\n";
+		return exit_unusable;
+	}
+	return status;
 }
 
 } // namespace quor_cli

@@ -6,6 +6,8 @@
 
 #include <quor/quor.hpp>
 
+#include "catalog/file_names.hpp"
+
 namespace quor_cli {
 
 namespace {
@@ -14,8 +16,10 @@ using quor::i18n::_private::xmc_file_loader;
 using quor::strings::ustring8;
 using load_error = xmc_file_loader::load_error;
 
-// In how many languages a file is loaded at most.
-constexpr std::size_t most_languages = 64;
+// A file is loaded for this many of its languages, and for all of them while that reads
+// no more than this many bytes.
+constexpr std::size_t sure_languages = 64;
+constexpr std::size_t most_bytes = 256 << 20;
 
 std::string loader_text(xmc_file_loader::error_type type, std::string const &data, std::string const &file) {
 	load_error error(type, ustring8(data));
@@ -31,38 +35,68 @@ void add_include_fault(document &from, include_use const &include, finding_kind 
 	from.faults.push_back(std::move(found));
 }
 
-// Reads a file; false if it doesn't open.
-bool add_document(catalog_set &set, std::string const &file) {
-	std::string text;
-	if (quor::system::load_file(ustring8(file), text) != 0) {
-		return false;
-	}
-	set.documents.emplace(file, read_document(file, text));
-	return true;
-}
+// Reads files and what they include, each once.
+class set_reader {
+public:
+	explicit set_reader(catalog_set &set) : m_set(set) {}
 
-// Reads what a file includes, as far as it isn't there, and appends it to the queue.
-void add_includes(catalog_set &set, document &from, std::deque<std::string> &queue) {
-	for (include_use const &include : from.includes) {
-		if (set.documents.count(include.path) != 0) {
-			continue;
+	// Reads a file that a path leads to.
+	void read_root(std::string const &path) {
+		std::string const file = m_names.first_spelling(path);
+		if (m_set.documents.count(file) == 0 && !read(file)) {
+			m_set.unreadable.push_back(path);
+			return;
 		}
-		if (!quor::system::io::exists(ustring8(include.path))) {
-			add_include_fault(from, include, finding_kind::include_missing,
-			                  "the included file \"" + include.path + "\" does not exist",
-			                  loader_text(xmc_file_loader::load_file_not_found, include.path, from.file));
-		} else if (!add_document(set, include.path)) {
-			using parse_error = quor::parser::xml_parser::parse_error;
-			load_error error(xmc_file_loader::load_xml_error, parse_error(parse_error::error_bad_header, 0, ""));
-			error.append_error_stack(load_error::append_file, ustring8(include.path));
-			error.append_error_stack(load_error::append_file, ustring8(from.file));
-			add_include_fault(from, include, finding_kind::include_unreadable,
-			                  "the included file \"" + include.path + "\" can't be read", error.message());
-		} else {
-			queue.push_back(include.path);
+		m_set.roots.push_back(file);
+		for (m_queue.push_back(file); !m_queue.empty(); m_queue.pop_front()) {
+			read_includes(m_set.documents.at(m_queue.front()));
 		}
 	}
-}
+
+private:
+	// False if the file doesn't open.
+	bool read(std::string const &file) {
+		std::string text;
+		if (quor::system::load_file(ustring8(file), text) != 0) {
+			return false;
+		}
+		m_set.documents.emplace(file, read_document(file, text));
+		return true;
+	}
+
+	void read_includes(document &from) {
+		for (include_use &include : from.includes) {
+			if (!quor::system::io::exists(ustring8(include.path))) {
+				add_include_fault(from, include, finding_kind::include_missing,
+				                  "the included file \"" + include.path + "\" does not exist",
+				                  loader_text(xmc_file_loader::load_file_not_found, include.path, from.file));
+				continue;
+			}
+			include.path = m_names.first_spelling(include.path);
+			if (m_set.documents.count(include.path) != 0) {
+				continue;
+			}
+			if (read(include.path)) {
+				m_queue.push_back(include.path);
+			} else {
+				add_unreadable(from, include);
+			}
+		}
+	}
+
+	static void add_unreadable(document &from, include_use const &include) {
+		using parse_error = quor::parser::xml_parser::parse_error;
+		load_error error(xmc_file_loader::load_xml_error, parse_error(parse_error::error_bad_header, 0, ""));
+		error.append_error_stack(load_error::append_file, ustring8(include.path));
+		error.append_error_stack(load_error::append_file, ustring8(from.file));
+		add_include_fault(from, include, finding_kind::include_unreadable,
+		                  "the included file \"" + include.path + "\" can't be read", error.message());
+	}
+
+	catalog_set &m_set;
+	file_names m_names;
+	std::deque<std::string> m_queue;
+};
 
 // Finds includes that lead back to a file that is being included.
 class cycle_search {
@@ -135,17 +169,28 @@ std::set<std::string> tree_of(catalog_set const &set, std::string const &root) {
 	return tree;
 }
 
+// Why a file doesn't load in which nothing is wrong.
+std::string refusal_words(load_error const &error, std::string const &language) {
+	if (error.type() == xmc_file_loader::load_unexpected) {
+		return "the files include each other more than " + std::to_string(xmc_file_loader::max_include_depth) +
+		       " deep, or more than " + std::to_string(xmc_file_loader::max_files) + " times in all";
+	}
+	return "the file does not load for the language \"" + (language.empty() ? "en" : language) + "\"";
+}
+
 // Loads a file for every language in it, to be sure that nothing was missed. Files that it
 // includes are loaded with it, and entered as confirmed.
 void confirm(catalog_set const &set, std::string const &root, std::set<std::string> &confirmed,
              finding_list &findings) {
 	std::set<std::string> languages{""};
+	std::size_t bytes = 0;
 	std::set<std::string> const tree = tree_of(set, root);
 	for (std::string const &file : tree) {
 		auto const found = set.documents.find(file);
 		if (found == set.documents.end() || findings.has_error(file)) {
 			return;
 		}
+		bytes += found->second.size;
 		for (catalog_use const &catalog : found->second.catalogs) {
 			languages.insert(catalog.language);
 		}
@@ -153,24 +198,20 @@ void confirm(catalog_set const &set, std::string const &root, std::set<std::stri
 	confirmed.insert(tree.begin(), tree.end());
 	std::size_t count = 0;
 	for (std::string const &language : languages) {
-		if (count++ == most_languages) {
+		if (++count > sure_languages && count * bytes > most_bytes) {
 			return;
 		}
 		xmc_file_loader loader;
 		load_error const error = loader.parse(ustring8(root), ustring8(language));
 		if (error.type() != xmc_file_loader::load_none) {
-			findings.add({finding_kind::loader,
-			              root,
-			              {},
-			              "the file does not load for the language \"" + (language.empty() ? "en" : language) + "\"",
-			              error.message()});
+			findings.add({finding_kind::loader, root, {}, refusal_words(error, language), error.message()});
 			return;
 		}
 	}
 }
 
 // Begins with the files that nobody includes, as they load the others along.
-void confirm_all(catalog_set const &set, finding_list &findings) {
+void confirm_all(catalog_set const &set, finding_list &findings, progress_function const &progress) {
 	std::set<std::string> included;
 	for (auto const &[file, read] : set.documents) {
 		for (include_use const &include : read.includes) {
@@ -179,7 +220,12 @@ void confirm_all(catalog_set const &set, finding_list &findings) {
 	}
 	std::set<std::string> confirmed;
 	for (bool const with_included : {false, true}) {
+		std::size_t done = set.roots.size();
 		for (std::string const &root : set.roots) {
+			// The first half is the reading.
+			if (progress && !with_included) {
+				progress(done++, set.roots.size() * 2);
+			}
 			if ((with_included || included.count(root) == 0) && confirmed.count(root) == 0) {
 				confirm(set, root, confirmed, findings);
 			}
@@ -205,19 +251,13 @@ catalog_set read_catalog_set(std::vector<std::string> const &paths, progress_fun
 	catalog_set set;
 	catalog_files const found = find_catalog_files(paths);
 	set.unreadable = found.unreadable;
-	std::deque<std::string> queue;
+	set_reader reader(set);
+	std::size_t done = 0;
 	for (std::string const &file : found.files) {
 		if (progress) {
-			progress(set.documents.size(), found.files.size());
+			progress(done++, found.files.size());
 		}
-		if (set.documents.count(file) == 0 && !add_document(set, file)) {
-			set.unreadable.push_back(file);
-			continue;
-		}
-		set.roots.push_back(file);
-		for (queue.push_back(file); !queue.empty(); queue.pop_front()) {
-			add_includes(set, set.documents.at(queue.front()), queue);
-		}
+		reader.read_root(file);
 	}
 	cycle_search(set).run();
 	return set;
@@ -225,7 +265,11 @@ catalog_set read_catalog_set(std::vector<std::string> const &paths, progress_fun
 
 check_result check_catalogs(std::vector<std::string> const &paths, std::size_t limit,
                             progress_function const &progress) {
-	catalog_set const set = read_catalog_set(paths, progress);
+	catalog_set const set = read_catalog_set(paths, [&progress](std::size_t done, std::size_t all) {
+		if (progress) {
+			progress(done, all * 2);
+		}
+	});
 	check_result result;
 	result.findings = finding_list(limit);
 	result.unreadable = set.unreadable;
@@ -244,7 +288,7 @@ check_result check_catalogs(std::vector<std::string> const &paths, std::size_t l
 	}
 	result.catalogs = catalogs.size();
 	add_set_doubts(set, result.findings);
-	confirm_all(set, result.findings);
+	confirm_all(set, result.findings, progress);
 	result.findings.sort();
 	return result;
 }

@@ -45,6 +45,9 @@ void add_check(CLI::App &catalog, action &chosen) {
 	CLI::App &app = *catalog.add_subcommand("check", "Find everything that is wrong with catalog files");
 	app.add_option("PATH", options->paths, "Catalog files, and directories of them")->required();
 	app.add_option("--limit", options->limit, "Findings to show for each file; the rest is counted; 0 shows all")
+	    ->check([](std::string const &text) {
+		    return text.find_first_not_of("0123456789") == std::string::npos ? "" : "\"" + text + "\" is no count";
+	    })
 	    ->capture_default_str();
 	app.add_flag("--json", options->json, "Write JSON, for programs");
 	app.footer("Reads every file to its end and for every language in it. Errors make the loader\n"

@@ -34,7 +34,9 @@ document read_document(std::string const &file, std::string const &text) {
 		}
 		first = false;
 	}
-	return reader.take();
+	document result = reader.take();
+	result.size = text.size();
+	return result;
 }
 
 bool accepts_language(std::string const &request, std::string const &language) {

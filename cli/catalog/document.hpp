@@ -46,9 +46,10 @@ struct include_use {
 // What a file holds, as far as it can be read, and the faults that make the loader refuse it.
 struct document {
 	std::string file;
+	std::size_t size = 0; // in bytes
 	std::vector<catalog_use> catalogs;
 	std::vector<include_use> includes;
-	std::vector<finding> faults;
+	std::vector<finding> faults; // and what is no text
 };
 
 // Reads the text of a file to its end, over all faults.

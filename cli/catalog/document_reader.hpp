@@ -41,6 +41,7 @@ private:
 	void include();
 	void message();
 	void add_arguments(message_use &use, iterator start);
+	void check_text(iterator start);
 	void check_ending(iterator start);
 	bool next_attribute();
 	std::string attribute_value();

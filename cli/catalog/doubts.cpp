@@ -46,7 +46,7 @@ void add_language_doubts(document const &read, catalog_use const &catalog, findi
 		    "the catalog has no lang, so it is never loaded; lang=\".\" is for texts of every language");
 	} else if (!catalog.loads) {
 		add(finding_kind::language_unreachable,
-		    "no request can reach the language \"" + catalog.language + "\", so the catalog is never loaded");
+		    "a request for the language \"" + catalog.language + "\" does not find this catalog");
 	} else if (normalised_language(catalog.language) != catalog.language) {
 		add(finding_kind::language_spelling, "write the language as \"" + normalised_language(catalog.language) +
 		                                         "\": asked whether it is loaded, the program is told that \"" +

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "terminal/terminal.hpp"
+
 namespace quor_cli {
 
 namespace {
@@ -24,10 +26,18 @@ std::string opened_at(syntax_fault const &fault, line_table const &lines) {
 
 // Where the comment begins that runs to the end of the file, npos if none does.
 std::size_t open_comment(std::string const &text) {
-	std::size_t const comment = text.rfind("<!--");
-	bool const is_open = comment != std::string::npos && text.find("-->", comment) == std::string::npos;
-	return is_open ? comment : std::string::npos;
+	std::size_t comment = text.find("<!--");
+	while (comment != std::string::npos) {
+		std::size_t const end = text.find("-->", comment + 4);
+		if (end == std::string::npos) {
+			return comment;
+		}
+		comment = text.find("<!--", end + 3);
+	}
+	return std::string::npos;
 }
+
+constexpr char const *cut_off = "the file ends in the middle of a tag";
 
 std::string end_words(syntax_fault const &fault, std::string const &text, line_table const &lines) {
 	if (open_comment(text) != std::string::npos) {
@@ -36,10 +46,13 @@ std::string end_words(syntax_fault const &fault, std::string const &text, line_t
 	if (!fault.open_element.empty()) {
 		return opened_at(fault, lines) + " is never closed: </" + fault.open_element + "> is missing";
 	}
-	return "the file ends in the middle of a tag";
+	return cut_off;
 }
 
-std::string mismatch_words(syntax_fault const &fault, line_table const &lines) {
+std::string mismatch_words(syntax_fault const &fault, std::string const &text, line_table const &lines) {
+	if (text.find('>', fault.offset) == std::string::npos) {
+		return cut_off;
+	}
 	std::string const name = fault.error.text();
 	if (name.empty()) {
 		return "\"/>\" without a tag to close";
@@ -48,24 +61,80 @@ std::string mismatch_words(syntax_fault const &fault, line_table const &lines) {
 	       " is still open";
 }
 
-std::string character_words(syntax_fault const &fault, std::string const &text) {
-	std::string const unit = fault.error.text();
-	if (fault.offset + 1 >= text.size()) {
-		return "the file ends in the middle of a tag";
+std::string header_words(std::string_view text) {
+	if (text.empty() || text == std::string_view("\0", 1)) {
+		return "the file is empty; it must begin with the header <?xml version=\"1.0\"?>";
 	}
+	if (text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF" ||
+	    text.substr(0, 2) == std::string_view("\0<", 2) || text.substr(0, 2) == std::string_view("<\0", 2)) {
+		return "the file is UTF-16; save it as UTF-8";
+	}
+	if (std::size_t const header = text.find("<?xml"); header == 0 || header == 3) {
+		return "the header is not closed: it must read <?xml version=\"1.0\"?>";
+	}
+	return "the file must begin with the header <?xml version=\"1.0\"?>, without a blank or a line in front of it";
+}
+
+// How far behind a "&" a fault can be and still be the entity's.
+constexpr std::size_t longest_entity = 12;
+
+bool is_in_entity(std::string_view text, std::size_t offset) {
+	std::size_t const first = offset < longest_entity ? 0 : offset - longest_entity + 1;
+	std::string_view const near = text.substr(first, offset - first + 1);
+	std::size_t const entity = near.rfind('&');
+	return entity != std::string_view::npos && text.find_first_of("; <", first + entity) >= offset;
+}
+
+// A "<" with something behind it that begins no tag.
+std::string no_tag_words(std::string const &unit) {
+	if (unit == "!") {
+		return "\"<!\" begins comments only, as in <!-- text -->; there is no <!DOCTYPE> and no <![CDATA[";
+	}
+	if (unit == "?") {
+		return "\"<?\" stands in the header only";
+	}
+	return "\"<\" begins a tag, whose name can't begin with \"" + unit + "\"; write &lt; for the character itself";
+}
+
+std::string name_words(std::string const &unit) {
+	return "the character \"" + unit +
+	       "\" can't stand here: the names of elements and attributes begin with a letter and go on with letters, "
+	       "digits and \"_\"";
+}
+
+std::string character_words(syntax_fault const &fault, std::string_view text) {
+	if (fault.offset + 1 >= text.size()) {
+		return cut_off;
+	}
+	std::string const unit = first_character(text.substr(fault.offset));
+	std::string_view const before = text.substr(0, fault.offset);
 	if (unit == "<") {
 		return "\"<\" inside a tag or an attribute's value: a quote or \">\" is missing before it; "
 		       "write &lt; for the character itself";
 	}
+	if (!before.empty() && before.back() == '<') {
+		return no_tag_words(unit);
+	}
 	if (unit == ">") {
 		return "\">\" without a tag to close; write &gt; for the character itself";
 	}
-	if (std::size_t const entity = text.rfind('&', fault.offset); entity != std::string::npos &&
-	                                                              fault.offset - entity < 12 &&
-	                                                              text.find_first_of("; <", entity) >= fault.offset) {
+	if (is_in_entity(text, fault.offset)) {
 		return "a malformed entity: write &amp; for \"&\" itself, and end entities with \";\"";
 	}
-	return "the character \"" + unit + "\" can't stand here";
+	if (!before.empty() && before.back() == '/') {
+		return before.size() > 1 && before[before.size() - 2] == '<' ? "\"</\" must be followed by a name"
+		                                                             : "\"/\" in a tag must be followed by \">\"";
+	}
+	return name_words(unit);
+}
+
+std::string equals_words(syntax_fault const &fault, std::string_view text) {
+	std::string const name = fault.error.text();
+	std::string const unit = first_character(text.substr(std::min(fault.offset, text.size())));
+	bool const is_cut = fault.offset != 0 && text[fault.offset - 1] == name.back() &&
+	                    unit.find_first_of(" \t\r\n<>/=\"'") == std::string::npos;
+	return is_cut ? "the name \"" + name + "\" is cut by \"" + unit + "\": names have letters, digits and \"_\""
+	              : "the attribute \"" + name + "\" has no \"=\" and no value";
 }
 
 // The element whose tag or content holds the token.
@@ -121,8 +190,12 @@ fault_words element_words(iterator at, std::string const &outer) {
 	case token::token_element_end:
 		return {finding_kind::element, "</" + value + "> can't stand here: nothing of that name is open"};
 	case token::token_attribute_name:
-	case token::token_attribute_value:
 		return {finding_kind::attribute, element(outer) + " takes no attribute \"" + value + "\""};
+	case token::token_attribute_value:
+		return {finding_kind::attribute, element(outer) + " takes no attribute \"" + std::prev(at)->value() + "\""};
+	case token::token_attributes_end: // which only a comment can move from its place
+		return {finding_kind::content,
+		        "a comment can't stand directly behind " + element(outer) + "; put a blank or a line in front of it"};
 	default:
 		return {finding_kind::content, "this can't stand " + in + allowed_in(outer)};
 	}
@@ -148,19 +221,19 @@ std::string syntax_words(syntax_fault const &fault, std::string const &text, lin
 	case parse_error::error_eof:
 		return end_words(fault, text, lines);
 	case parse_error::error_mismatched_end:
-		return mismatch_words(fault, lines);
+		return mismatch_words(fault, text, lines);
 	case parse_error::error_no_root:
 		return "there is nothing behind the header <?xml ... ?>";
 	case parse_error::error_bad_header:
-		return "the file must begin with the header <?xml version=\"1.0\"?>";
+		return header_words(text);
 	case parse_error::error_missing_quote:
-		return name.empty() ? "the value of an attribute must stand in quotes"
+		return name.empty() ? "the value of an attribute must stand in straight quotes, \" or '"
 		                    : "the value of the attribute \"" + name + "\" has no closing quote";
 	case parse_error::error_unknown_entity:
 		return "an unknown entity: there are &amp; &lt; &gt; &quot; &apos; &nbsp; and &#...;; write &amp; for "
 		       "\"&\" itself";
 	case parse_error::error_missing_equals:
-		return "the attribute \"" + name + "\" has no \"=\" and no value";
+		return equals_words(fault, text);
 	case parse_error::error_attribute_redefined:
 		return "the attribute \"" + name + "\" stands twice in one tag";
 	case parse_error::error_data_after_root:
@@ -168,6 +241,16 @@ std::string syntax_words(syntax_fault const &fault, std::string const &text, lin
 	default:
 		return character_words(fault, text);
 	}
+}
+
+std::string no_text_words(char byte) {
+	static char const digits[] = "0123456789ABCDEF";
+	auto const value = static_cast<unsigned char>(byte);
+	std::string const shown = std::string("0x") + digits[value >> 4U] + digits[value & 0xFU];
+	return value < 0x80 ? "the message holds the control character " + shown + ", which is no text"
+	                    : "the message is not UTF-8: the byte " + shown +
+	                          " begins no character; save the file as UTF-8, and write characters above &#127; "
+	                          "themselves";
 }
 
 fault_words structure_words(xmc_file_loader::load_error const &error, token_segment const &segment, iterator begin,

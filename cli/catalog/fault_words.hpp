@@ -18,6 +18,9 @@ std::size_t syntax_offset(syntax_fault const &fault, std::string const &text);
 // The fault in words. `text` is the file's.
 std::string syntax_words(syntax_fault const &fault, std::string const &text, line_table const &lines);
 
+// What is wrong with a byte that no text holds.
+std::string no_text_words(char byte);
+
 struct fault_words {
 	finding_kind kind = finding_kind::content;
 	std::string text;

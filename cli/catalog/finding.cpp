@@ -8,7 +8,7 @@ namespace quor_cli {
 
 namespace {
 
-constexpr std::array<std::string_view, 28> names = {
+constexpr std::array<std::string_view, 29> names = {
     "syntax",
     "root",
     "version",
@@ -27,6 +27,7 @@ constexpr std::array<std::string_view, 28> names = {
     "language-spelling",
     "message-without-name",
     "duplicate-message",
+    "encoding",
     "arguments-differ",
     "argument-without-name",
     "type-unknown",

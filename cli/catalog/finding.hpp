@@ -34,6 +34,7 @@ enum class finding_kind {
 	language_spelling,
 	message_without_name,
 	duplicate_message,
+	encoding,
 	arguments_differ,
 	argument_without_name,
 	type_unknown,

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include <quor/quor.hpp>
+
+#include "catalog/file_names.hpp"
 
 namespace quor_cli {
 
@@ -22,41 +25,35 @@ bool is_catalog_name(std::string_view path) {
 	return lower == ".xmc" || lower == ".xml";
 }
 
-std::string_view directory_of(std::string_view path) {
-	return path.substr(0, path.rfind('/'));
-}
-
-// The walk of the library passes over files that it can't read; they are looked for
-// beside those that it found.
-void add_unreadable(std::string const &directory, std::set<std::string> const &found,
-                    std::vector<std::string> &unreadable) {
-	std::set<std::string> directories{directory};
-	for (std::string const &file : found) {
-		directories.emplace(directory_of(file));
-	}
-	for (std::string const &each : directories) {
-		for (ustring8 const &entry : quor::system::list_directory(ustring8(each))) {
-			std::string const path = with_slashes(entry);
-			if (is_catalog_name(path) && quor::system::io::is_file(entry) && found.count(path) == 0) {
-				unreadable.push_back(tidy_path(path));
-			}
-		}
-	}
-}
-
-void add_directory(std::string const &directory, catalog_files &result) {
-	std::vector<ustring8> all;
-	quor::system::get_directory_files(ustring8(directory), all);
+// Walks a directory as the library loads it, and notes what can't be read on the way.
+void add_directory(std::string const &root, catalog_files &result) {
 	std::set<std::string> found;
-	for (ustring8 const &each : all) {
-		if (std::string path = with_slashes(each); is_catalog_name(path)) {
-			found.insert(std::move(path));
+	std::set<std::string> visited;
+	std::vector<std::string> open{root};
+	while (!open.empty()) {
+		std::string const directory = std::move(open.back());
+		open.pop_back();
+		if (!visited.insert(directory_identity(directory)).second) {
+			continue;
+		}
+		std::vector<ustring8> const entries = quor::system::list_directory(ustring8(directory));
+		if (entries.empty() && !is_listable(directory)) {
+			result.unreadable.push_back(tidy_path(directory));
+		}
+		for (ustring8 const &entry : entries) {
+			std::string path = with_slashes(entry);
+			if (quor::system::io::is_file(entry)) {
+				if (is_catalog_name(path)) {
+					found.insert(std::move(path));
+				}
+			} else if (quor::system::io::is_directory(entry)) {
+				open.push_back(std::move(path));
+			}
 		}
 	}
 	for (std::string const &each : found) {
 		result.files.push_back(tidy_path(each));
 	}
-	add_unreadable(directory, found, result.unreadable);
 }
 
 } // namespace
@@ -76,32 +73,13 @@ catalog_files find_catalog_files(std::vector<std::string> const &paths) {
 			result.unreadable.push_back(path);
 		}
 	}
+	file_names names;
 	std::set<std::string> seen;
-	auto const last = std::remove_if(result.files.begin(), result.files.end(),
-	                                 [&seen](std::string const &file) { return !seen.insert(file).second; });
+	auto const last = std::remove_if(result.files.begin(), result.files.end(), [&](std::string const &file) {
+		return !seen.insert(names.first_spelling(file)).second;
+	});
 	result.files.erase(last, result.files.end());
 	return result;
-}
-
-std::string tidy_path(std::string_view path) {
-	std::vector<std::string_view> names;
-	std::string const text = with_slashes(path);
-	std::string_view rest = text;
-	while (!rest.empty()) {
-		std::size_t const end = std::min(rest.find('/'), rest.size());
-		std::string_view const name = rest.substr(0, end);
-		rest.remove_prefix(std::min(end + 1, rest.size()));
-		if (name == ".." && !names.empty() && names.back() != "..") {
-			names.pop_back();
-		} else if (!name.empty() && name != ".") {
-			names.push_back(name);
-		}
-	}
-	std::string result = text.front() == '/' ? "/" : "";
-	for (std::string_view const name : names) {
-		result.append(result.empty() || result == "/" ? "" : "/").append(name);
-	}
-	return result.empty() ? "." : result;
 }
 
 std::string include_path(std::string const &including, std::string const &included) {
@@ -115,8 +93,11 @@ std::string include_path(std::string const &including, std::string const &includ
 }
 
 line_table::line_table(std::string_view text) {
-	for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1)) {
-		m_feeds.push_back(at);
+	for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
+	     at = text.find_first_of("\r\n", at + 1)) {
+		if (text[at] == '\n' || text.substr(at, 2) != "\r\n") {
+			m_feeds.push_back(at);
+		}
 	}
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <string_view>
 #include <utility>
 
@@ -19,11 +20,14 @@ constexpr std::string_view reopen_top = "<?xml?><xmc>";
 constexpr std::string_view reopen_catalog = "<?xml?><xmc><catalog>";
 constexpr std::size_t room = reopen_catalog.size();
 
+// Where the root and the catalog begin that are open, for when they are opened again.
+using outer_tags = std::map<std::string, std::size_t>;
+
 // Records the events of one parse as tokens, with their places.
 class recorder {
 public:
-	recorder(std::string const &buffer, std::size_t first, token_segment &segment)
-	    : m_buffer(buffer), m_first(first), m_segment(segment) {
+	recorder(std::string const &buffer, std::size_t first, outer_tags &outer, token_segment &segment)
+	    : m_buffer(buffer), m_first(first), m_outer(outer), m_segment(segment) {
 		using quor::functor::member_function_t;
 		m_parser.on_element_start() = member_function_t(this, &recorder::element_start);
 		m_parser.on_element_end() = member_function_t(this, &recorder::element_end);
@@ -48,6 +52,8 @@ public:
 				fault.open_element = m_open.back().first;
 				fault.open_offset = m_open.back().second;
 			}
+			fault.in_catalog =
+			    std::any_of(m_open.begin(), m_open.end(), [](auto const &each) { return each.first == "catalog"; });
 			m_segment.fault = std::move(fault);
 		}
 		return end;
@@ -83,12 +89,19 @@ private:
 	}
 
 	void element_start(ustring8 const &name) {
-		if (!is_reopening()) {
+		std::size_t begin = tag_begin(name);
+		if (is_reopening()) {
+			auto const found = m_outer.find(name);
+			begin = found != m_outer.end() ? found->second : m_first;
+		} else {
 			close_attributes();
 			m_attributes_closed = false;
-			add(token::token_element_start, name, tag_begin(name));
+			add(token::token_element_start, name, begin);
+			if (name == "xmc" || name == "catalog") {
+				m_outer[name] = begin;
+			}
 		}
-		m_open.emplace_back(name, tag_begin(name));
+		m_open.emplace_back(name, begin);
 		m_last = offset() + 1;
 	}
 
@@ -128,6 +141,7 @@ private:
 
 	std::string const &m_buffer;
 	std::size_t m_first;
+	outer_tags &m_outer;
 	token_segment &m_segment;
 	xml_parser m_parser;
 	xml_parser::const_iterator m_at;
@@ -149,12 +163,15 @@ struct resume_point {
 	bool in_catalog = false;
 };
 
-// The next tag behind a fault at which the reading can go on.
-resume_point find_resume_point(std::string_view text, std::size_t from) {
+// The next place behind a fault at which the reading can go on.
+resume_point find_resume_point(std::string_view text, std::size_t from, bool in_catalog) {
 	for (std::size_t at = text.find('<', from); at != std::string_view::npos; at = text.find('<', at + 1)) {
 		std::string_view const rest = text.substr(at);
 		if (is_tag(rest, "<msg") || is_tag(rest, "</catalog")) {
 			return {at, true};
+		}
+		if (in_catalog && is_tag(rest, "</msg")) {
+			return {std::min(text.find('>', at), text.size() - 1) + 1, true};
 		}
 		if (is_tag(rest, "<catalog") || is_tag(rest, "<include")) {
 			return {at, false};
@@ -190,25 +207,33 @@ std::list<token_segment> read_segments(std::string const &text) {
 	std::list<token_segment> segments;
 	std::size_t begin = room;
 	std::size_t from = room;
+	outer_tags outer;
+	quor::types::uint32 lines = 0; // that the parser would have counted so far
 	while (true) {
 		token_segment &segment = segments.emplace_back();
 		segment.in_catalog = from != begin && begin - from == reopen_catalog.size();
-		std::size_t const end = recorder(buffer, begin, segment).run(from);
+		std::size_t const end = recorder(buffer, begin, outer, segment).run(from);
 		for (std::size_t &offset : segment.offsets) {
 			offset -= room;
 		}
 		if (!segment.fault) {
 			return segments;
 		}
-		segment.fault->offset -= room;
-		segment.fault->open_offset = std::max(segment.fault->open_offset, room) - room;
-		auto const &error = segment.fault->error;
-		bool const has_header = error.code() != xml_parser::parse_error::error_bad_header;
-		resume_point const next =
-		    find_resume_point(buffer, has_header ? search_from(buffer, begin, end, error) : begin);
-		if (next.offset == std::string::npos) {
+		syntax_fault &fault = *segment.fault;
+		xml_parser::parse_error const error = fault.error;
+		std::size_t const search =
+		    error.code() == xml_parser::parse_error::error_bad_header ? begin : search_from(buffer, begin, end, error);
+		resume_point const next = find_resume_point(buffer, search, fault.in_catalog);
+		lines += error.line();
+		fault.error = xml_parser::parse_error(error.code(), lines, error.text());
+		fault.offset -= room;
+		fault.open_offset = std::max(fault.open_offset, room) - room;
+		if (next.offset >= buffer.size()) {
 			return segments;
 		}
+		std::size_t const skipped = std::min(end, next.offset);
+		lines +=
+		    static_cast<quor::types::uint32>(std::count(buffer.data() + skipped, buffer.data() + next.offset, '\n'));
 		std::string_view const prefix = next.in_catalog ? reopen_catalog : reopen_top;
 		begin = next.offset;
 		from = begin - prefix.size();

@@ -12,7 +12,6 @@ namespace {
 using quor::config::base_config_item;
 using quor::config::config_manager;
 using quor::config::config_tree;
-using quor::config::file_item;
 using quor::strings::ustring8;
 using quor::types::variant;
 using item_pointer = quor::memory::pointers::rc_pointer<base_config_item>;
@@ -52,8 +51,10 @@ std::string answer_text(base_config_item const &item, std::string const &key) {
 }
 
 // Why the first answer is what counts, and what it means.
-std::string reason(config_tree::node_value const &node, config_source const &winner) {
-	std::string wins = "the " + std::string(winner.title) + " wins, as it is the first that knows the key";
+std::string reason(config_tree::node_value const &node, config_source const &winner, std::string const &file) {
+	std::string const which = std::string_view(winner.id) == "standard file" ? " \"" + printable(file) + "\"" : "";
+	std::string const wins =
+	    "the " + std::string(winner.title) + which + " wins, as it is the first that knows the key";
 	if (is_array(node)) {
 		return wins + "; of a list, element 0 is the value";
 	}
@@ -79,7 +80,7 @@ public:
 				return;
 			}
 			config_tree::node_value const node = *m_manager.get_config_item(winner->id)->get_value(ustring8(key));
-			m_to.out << "  " << reason(node, *winner) << '\n';
+			m_to.out << "  " << reason(node, *winner, loaded_file(m_manager)) << '\n';
 			if (is_array(node) || (node.first & config_tree::flag_reference) == 0) {
 				return;
 			}
@@ -136,10 +137,15 @@ void write_list(std::string const &name, base_config_item const &item, terminal 
 	to.out << printable(name) << "[] = " << list_text(item, name) << '\n';
 }
 
-// Whether a name is that of an element: a list's name, a dot and a number.
-bool is_element(std::string const &name, std::string const &list) {
-	return !list.empty() && name.size() > list.size() + 1 && name.compare(0, list.size() + 1, list + ".") == 0 &&
-	       name.find_first_not_of("0123456789", list.size() + 1) == std::string::npos;
+// The names of a list's elements, up to the first gap.
+std::set<std::string> element_names(std::string const &list, base_config_item const &item) {
+	config_tree::value_pair_array elements;
+	item.get_array(ustring8(list), elements);
+	std::set<std::string> names;
+	for (auto const &[name, node] : elements) {
+		names.insert(list + "." + name);
+	}
+	return names;
 }
 
 } // namespace
@@ -161,18 +167,18 @@ void dump_sources(config_manager const &manager, std::vector<config_source> cons
 	for (config_source const &each : sources) {
 		item_pointer const item = manager.get_config_item(each.id);
 		std::string title = each.title;
-		if (auto const *const file = dynamic_cast<file_item const *>(item.get()); file != nullptr) {
-			title += " \"" + printable(file->get_filename()) + "\"";
+		if (std::string const file = loaded_file(manager); !file.empty() && item->get_id() == "standard file") {
+			title += " \"" + printable(file) + "\"";
 		}
 		to.out << coloured("[" + title + "]", colour::bold, to.out_has_colours) << '\n';
 		config_tree::value_pair_array entries;
 		item->get_value_pair_array("", entries, true);
-		std::string list;
+		std::set<std::string> elements; // that stand with their list
 		for (auto const &[name, node] : entries) {
 			if (is_array(node)) {
-				list = name;
+				elements.merge(element_names(name, *item));
 				write_list(name, *item, to);
-			} else if (node.first != 0 && !is_element(name, list)) {
+			} else if (node.first != 0 && elements.count(name) == 0) {
 				to.out << printable(name) << " = " << quoted(node.second) << '\n';
 			}
 		}

@@ -23,6 +23,12 @@ private:
 
 } // namespace
 
+std::string loaded_file(quor::config::config_manager const &manager) {
+	auto const item = manager.get_config_item("standard file");
+	auto const *const file = dynamic_cast<quor::config::file_item const *>(item.get());
+	return file != nullptr ? file->get_filename() : ustring8();
+}
+
 config_source const standard_sources[3] = {
     {"command line", "command line"},
     {"standard file", "file"},
@@ -48,7 +54,9 @@ config_sources::config_sources(config_request const &request, terminal &to) {
 	try {
 		m_manager.load();
 	} catch (std::runtime_error const &) {
-		throw std::runtime_error("\"" + request.file + "\" has a key of one byte; keys in files have two or more");
+		// The command line may have named another file.
+		throw std::runtime_error("\"" + loaded_file(m_manager) +
+		                         "\" has a key of one byte; keys in files have two or more");
 	}
 }
 

@@ -34,6 +34,9 @@ private:
 	quor::config::config_manager m_manager;
 };
 
+// The file that was looked for last, "" if none was.
+std::string loaded_file(quor::config::config_manager const &manager);
+
 struct config_source {
 	char const *id;    // as the library knows it
 	char const *title; // as people do

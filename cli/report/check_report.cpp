@@ -75,9 +75,12 @@ void write_check_text(check_result const &result, terminal &to) {
 	}
 	to.out << counted(result.files, "file") << ", " << counted(result.catalogs, "catalog") << ", "
 	       << counted(result.languages, "language") << ", " << counted(result.messages, "text") << ": ";
-	std::string const summary =
+	std::string summary =
 	    counted(result.findings.errors(), "error") + ", " + counted(result.findings.warnings(), "warning");
-	bool const clean = result.findings.errors() + result.findings.warnings() == 0;
+	if (!result.unreadable.empty()) {
+		summary += ", " + counted(result.unreadable.size(), "path") + " unreadable";
+	}
+	bool const clean = result.findings.errors() + result.findings.warnings() == 0 && result.unreadable.empty();
 	to.out << coloured(clean ? "clean" : summary, clean ? colour::green : colour::red, to.out_has_colours) << '\n';
 }
 

@@ -1,5 +1,6 @@
 #include "terminal/terminal.hpp"
 
+#include <algorithm>
 #include <array>
 #include <ostream>
 
@@ -88,6 +89,22 @@ std::string printable(std::string_view text, bool keep_lines) {
 	return result;
 }
 
+std::size_t find_no_text(std::string_view text) {
+	for (std::size_t at = 0; at != text.size();) {
+		code_point const next = decode(text.substr(at));
+		bool const is_control = next.value < 0x20 && next.value != '\t' && next.value != '\n' && next.value != '\r';
+		if (next.size == 0 || is_control || next.value == 0x7F) {
+			return at;
+		}
+		at += next.size;
+	}
+	return std::string_view::npos;
+}
+
+std::string first_character(std::string_view text) {
+	return std::string(text.substr(0, text.empty() ? 0 : std::max<std::size_t>(decode(text).size, 1)));
+}
+
 std::size_t columns(std::string_view text) {
 	std::size_t count = 0;
 	while (!text.empty()) {
@@ -111,7 +128,7 @@ progress_bar::~progress_bar() {
 }
 
 void progress_bar::show(std::size_t done, std::size_t all) {
-	std::size_t const percent = all == 0 ? 100 : done * 100 / all;
+	std::size_t const percent = done >= all ? 100 : done * 100 / all;
 	if (!m_to.shows_progress || all < 2 || percent == m_percent) {
 		return;
 	}

@@ -27,6 +27,13 @@ std::string coloured(std::string_view text, colour which, bool has_colours);
 // A line feed and a tab stay where keep_lines is set.
 std::string printable(std::string_view text, bool keep_lines = false);
 
+// Where the first byte stands that no text holds, npos if there is none: what is no UTF-8, and
+// control characters other than tab, line feed and carriage return.
+std::size_t find_no_text(std::string_view text);
+
+// The first character of a text, or its first byte where that is no UTF-8.
+std::string first_character(std::string_view text);
+
 // How many columns a text takes, about: one for each code point, two for wide ones.
 std::size_t columns(std::string_view text);
 

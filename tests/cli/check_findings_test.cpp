@@ -5,8 +5,10 @@
 #include <set>
 
 #include "catalog/checker.hpp"
+#include "run_command.hpp"
 #include "support/debug_capture.hpp"
 #include "support/temporary_directory.hpp"
+#include "told_findings.hpp"
 
 namespace {
 
@@ -14,38 +16,10 @@ using quor_cli::check_catalogs;
 using quor_cli::check_result;
 using quor_cli::finding;
 using quor_cli::finding_kind;
+using quor_test::file_of;
+using quor_test::head;
 using quor_test::temporary_directory;
-
-// "3 error element: text | path" for each finding, in the order of the report.
-std::vector<std::string> told(check_result const &result, std::string const &directory) {
-	std::vector<std::string> lines;
-	for (auto const &[file, found] : result.findings.files()) {
-		for (finding const &each : found.kept) {
-			std::string line = std::to_string(each.where.line) + " ";
-			line += severity_of(each.kind) == quor_cli::severity::error ? "error " : "warning ";
-			line += std::string(kind_name(each.kind)) + ": " + each.text;
-			std::string separator = " | ";
-			for (std::string const &element : element_path(each.where)) {
-				line += separator + element;
-				separator = " > ";
-			}
-			EXPECT_EQ(severity_of(each.kind) == quor_cli::severity::error, !each.loader.empty()) << line;
-			// Without the directory's changing name.
-			if (std::size_t const at = line.find(directory + "/"); at != std::string::npos) {
-				line.erase(at, directory.size() + 1);
-			}
-			lines.push_back(line);
-		}
-	}
-	return lines;
-}
-
-std::string const head = "<?xml version=\"1.0\"?>\n<xmc version=\"1.1\">\n";
-
-// A file with one catalog; its content begins on line 4.
-std::string file_of(std::string const &content) {
-	return head + "<catalog name=\"c\" lang=\"en\">\n" + content + "\n</catalog>\n</xmc>\n";
-}
+using quor_test::told;
 
 // A file with one message; its content is on line 4.
 std::string message_of(std::string const &content) {
@@ -73,8 +47,18 @@ TEST(check_findings, syntax_is_told_in_words_with_its_line) {
 	run_rows({
 	    {"header",
 	     "<xmc version=\"1.0\"/>",
-	     {"1 error syntax: the file must begin with the header <?xml version=\"1.0\"?>"}},
-	    {"empty", "", {"1 error syntax: the file must begin with the header <?xml version=\"1.0\"?>"}},
+	     {"1 error syntax: the file must begin with the header <?xml version=\"1.0\"?>, without a blank or a line in "
+	      "front of it"}},
+	    {"line in front",
+	     "\n<?xml?>\n<xmc/>",
+	     {"1 error syntax: the file must begin with the header <?xml version=\"1.0\"?>, without a blank or a line in "
+	      "front of it"}},
+	    {"open header",
+	     "<?xml version=\"1.0\"\n<xmc/>",
+	     {"2 error syntax: the header is not closed: it must read <?xml version=\"1.0\"?>"}},
+	    {"empty", "", {"1 error syntax: the file is empty; it must begin with the header <?xml version=\"1.0\"?>"}},
+	    {"wide", std::string("\xFF\xFE<\0?\0x\0", 8), {"1 error syntax: the file is UTF-16; save it as UTF-8"}},
+	    {"wide without mark", std::string("\0<\0?\0x", 6), {"1 error syntax: the file is UTF-16; save it as UTF-8"}},
 	    {"mismatch",
 	     file_of("<msg name=\"a\">x\n<msg name=\"b\">y</msg>"),
 	     {"5 error element: <msg> can't stand in <msg>: </msg> is missing in front of it" + in + " > msg \"a\" > msg",
@@ -83,6 +67,12 @@ TEST(check_findings, syntax_is_told_in_words_with_its_line) {
 	    {"unclosed",
 	     head + "<catalog name=\"c\" lang=\"en\">\n<msg name=\"a\">x",
 	     {"4 error syntax: <msg>, opened on line 4, is never closed: </msg> is missing" + in + " > msg \"a\""}},
+	    {"cut off in an end tag",
+	     head + "<catalog name=\"c\" lang=\"en\">\n<msg name=\"a\">x</ms",
+	     {"4 error syntax: the file ends in the middle of a tag" + in + " > msg \"a\""}},
+	    {"comment that only looks closed",
+	     file_of("<!-- a -->\n<!--->\n<!-- b"),
+	     {"5 error syntax: the comment is never closed (\"-->\")" + in}},
 	    {"comment", file_of("<!-- x"), {"4 error syntax: the comment is never closed (\"-->\")" + in}},
 	    {"quote",
 	     file_of("<msg name=\"a>x</msg>"),
@@ -94,7 +84,7 @@ TEST(check_findings, syntax_is_told_in_words_with_its_line) {
 	     {"4 error syntax: \">\" without a tag to close; write &gt; for the character itself" + in}},
 	    {"no quotes",
 	     file_of("<msg name=a>x</msg>"),
-	     {"4 error syntax: the value of an attribute must stand in quotes" + in + " > msg"}},
+	     {"4 error syntax: the value of an attribute must stand in straight quotes, \" or '" + in + " > msg"}},
 	    {"equals",
 	     file_of("<msg name>x</msg>"),
 	     {"4 error syntax: the attribute \"name\" has no \"=\" and no value" + in + " > msg"}},
@@ -111,6 +101,46 @@ TEST(check_findings, syntax_is_told_in_words_with_its_line) {
 	     message_of("a &am b"),
 	     {"4 error syntax: a malformed entity: write &amp; for \"&\" itself, and end entities with \";\"" + in +
 	      " > msg \"m\""}},
+	    {"ampersand before a tag",
+	     message_of("R&D"),
+	     {"4 error syntax: an unknown entity: there are &amp; &lt; &gt; &quot; &apos; &nbsp; and &#...;; write &amp; "
+	      "for \"&\" itself" +
+	      in + " > msg \"m\""}},
+	    {"less",
+	     message_of("a < b"),
+	     {"4 error syntax: \"<\" begins a tag, whose name can't begin with \" \"; write &lt; for the character itself" +
+	      in + " > msg \"m\""}},
+	    {"less before a character",
+	     message_of("<\xC3\xA9"),
+	     {"4 error syntax: \"<\" begins a tag, whose name can't begin with \"\xC3\xA9\"; write &lt; for the character "
+	      "itself" +
+	      in + " > msg \"m\""}},
+	    {"cdata",
+	     message_of("<![CDATA[x]]>"),
+	     {"4 error syntax: \"<!\" begins comments only, as in <!-- text -->; there is no <!DOCTYPE> and no <![CDATA[" +
+	      in + " > msg \"m\""}},
+	    {"instruction", file_of("<?php x ?>"), {"4 error syntax: \"<?\" stands in the header only" + in}},
+	    {"slash",
+	     file_of("<msg name=\"a\"/ >"),
+	     {"4 error syntax: \"/\" in a tag must be followed by \">\"" + in + " > msg \"a\""}},
+	    {"end without a name",
+	     message_of("x</ msg>"),
+	     {"4 error syntax: \"</\" must be followed by a name" + in + " > msg \"m\""}},
+	    {"dash in a name",
+	     file_of("<msg my-name=\"a\">x</msg>"),
+	     {"4 error syntax: the name \"my\" is cut by \"-\": names have letters, digits and \"_\"" + in + " > msg"}},
+	    {"prefix",
+	     "<?xml?>\n<xmc version=\"1.1\" xmlns:a=\"b\"><catalog name=\"c\" lang=\"en\"/></xmc>",
+	     {"2 error syntax: the name \"xmlns\" is cut by \":\": names have letters, digits and \"_\""}},
+	    {"name of an element",
+	     file_of("<_a/>"),
+	     {"4 error syntax: \"<\" begins a tag, whose name can't begin with \"_\"; write &lt; for the character itself" +
+	      in}},
+	    {"character in a tag",
+	     file_of("<msg !>x</msg>"),
+	     {"4 error syntax: the character \"!\" can't stand here: the names of elements and attributes begin with a "
+	      "letter and go on with letters, digits and \"_\"" +
+	      in + " > msg"}},
 	    {"second root",
 	     file_of("") + "<xmc/>",
 	     {"7 error syntax: a second root element: everything must stand inside one <xmc>"}},
@@ -122,13 +152,71 @@ TEST(check_findings, reading_goes_on_behind_every_fault) {
 	    {"three",
 	     file_of("<msg name=a>x</msg>\n<msg name=\"b\">y &z; </msg>\n<msg name=\"c\"><b>y</b></msg>\n"
 	             "<msg name=\"d\"><arg name=\"n\" type=\"date\"/></msg>"),
-	     {"4 error syntax: the value of an attribute must stand in quotes | catalog \"c\" (en) > msg",
+	     {"4 error syntax: the value of an attribute must stand in straight quotes, \" or ' | catalog \"c\" (en) > msg",
 	      "5 error syntax: an unknown entity: there are &amp; &lt; &gt; &quot; &apos; &nbsp; and &#...;; write &amp; "
 	      "for \"&\" itself | catalog \"c\" (en) > msg \"b\"",
 	      "6 error element: <b> can't stand in <msg>; <msg> takes text, <arg> and <br/> | catalog \"c\" (en) > msg "
 	      "\"c\" > b",
 	      "7 warning type-reserved: the type \"date\" is reserved and always shows \"?invalid?\"; give the program's "
 	      "own text as a string | catalog \"c\" (en) > msg \"d\" > arg \"n\""}},
+	});
+}
+
+// The line of the first fault for each way of ending a line.
+TEST(check_findings, lines_are_those_of_an_editor) {
+	std::string const text =
+	    file_of("<msg\n name=\"a\"\n foo=\"b\">x</msg>\n<!-- \n -->\n<msg name=\"b\">x\ny<b/></msg>\n"
+	            "<msg\n name=c/>\n<msg name=\"d\" name=\"e\"/>");
+	for (std::string const ending : {"\n", "\r\n", "\r"}) {
+		std::string const ended = quor_test::replaced(text, "\n", ending);
+		temporary_directory const directory;
+		directory.write("a.xmc", ended);
+		std::vector<std::size_t> lines;
+		check_result const result = check_catalogs({directory.root().string()}, 0);
+		for (auto const &[file, found] : result.findings.files()) {
+			for (finding const &each : found.kept) {
+				lines.push_back(each.where.line);
+			}
+		}
+		EXPECT_EQ((std::vector<std::size_t>{6, 10, 12, 13}), lines) << ending.size();
+	}
+}
+
+// The loader's own lines go on behind a fault as if it had been mended.
+TEST(check_findings, lines_of_the_loader_go_on_behind_a_fault) {
+	temporary_directory const directory;
+	directory.write("a.xmc", file_of("<msg name=a>x</msg>\n\n<msg name=b>x</msg>\n<msg name=c>x</msg>"));
+	std::vector<std::string> told;
+	check_result const result = check_catalogs({directory.root().string()}, 0);
+	for (finding const &each : result.findings.files().begin()->second.kept) {
+		told.push_back(each.loader.substr(each.loader.find("line: "), 9));
+	}
+	EXPECT_EQ((std::vector<std::string>{"line: \"3\"", "line: \"5\"", "line: \"6\""}), told);
+}
+
+TEST(check_findings, a_fault_brings_no_false_ones_along) {
+	std::string const in = " | catalog \"c\" (en)";
+	std::string const quotes = "error syntax: the value of an attribute must stand in straight quotes, \" or '";
+	run_rows({
+	    {"the open catalog keeps its line",
+	     head + "<catalog name=\"c\" lang=\"en\">\n<msg name=a>x</msg>\n<msg name=\"b\">y</msg>",
+	     {"3 error syntax: <catalog>, opened on line 3, is never closed: </catalog> is missing" + in,
+	      "4 " + quotes + in + " > msg"}},
+	    {"what stands between two messages is read",
+	     file_of("<msg name=a>x</msg>\n<group/>\n<msg name=\"b\">y</msg>"),
+	     {"4 " + quotes + in + " > msg",
+	      "5 error element: <group> can't stand in <catalog>; <catalog> takes <msg>" + in + " > group"}},
+	    {"catalog in catalog",
+	     file_of("<catalog name=\"d\" lang=\"de\"><msg name=\"m\">x</msg></catalog>\n<msg name=\"n\">x</msg>"),
+	     {"4 error element: <catalog> can't stand in <catalog>; <catalog> takes <msg>" + in + " > catalog"}},
+	    {"include in catalog",
+	     file_of("<include file=\"gone.xmc\"/>\n<msg name=\"n\"><b/></msg>"),
+	     {"4 error element: <include> can't stand in <catalog>; <catalog> takes <msg>" + in + " > include",
+	      "4 error include-missing: the included file \"gone.xmc\" does not exist | include",
+	      "5 error element: <b> can't stand in <msg>; <msg> takes text, <arg> and <br/>" + in + " > msg \"n\" > b"}},
+	    {"message outside of catalogs",
+	     head + "<msg name=m>x</msg>\n<catalog name=\"c\" lang=\"en\"/></xmc>",
+	     {"3 error element: <msg> can't stand in <xmc>; <xmc> takes <catalog> and <include> | msg", "3 " + quotes}},
 	});
 }
 
@@ -142,6 +230,12 @@ TEST(check_findings, structure_is_told_in_words) {
 	    {"no version",
 	     "<?xml?><xmc><catalog name=\"c\" lang=\"en\"/></xmc>",
 	     {"1 error attribute: the first attribute of <xmc> must be version"}},
+	    {"attribute of xmc",
+	     "<?xml?><xmc version=\"1.1\" lang=\"en\"> <catalog name=\"c\" lang=\"en\"/></xmc>",
+	     {"1 error attribute: <xmc> takes no attribute \"lang\""}},
+	    {"comment behind xmc",
+	     "<?xml?>\n<xmc version=\"1.1\"><!-- x --><catalog name=\"c\" lang=\"en\"/></xmc>",
+	     {"2 error content: a comment can't stand directly behind <xmc>; put a blank or a line in front of it"}},
 	    {"element in xmc",
 	     head + "<group/>\n<include/></xmc>",
 	     {"3 error element: <group> can't stand in <xmc>; <xmc> takes <catalog> and <include> | group",
@@ -195,7 +289,7 @@ TEST(check_findings, what_loads_and_is_wrong_is_a_warning) {
 	      "(en)"}},
 	    {"unreachable",
 	     head + "<catalog name=\"c\" lang=\"de_\"/></xmc>",
-	     {"3 warning language-unreachable: no request can reach the language \"de_\", so the catalog is never loaded | "
+	     {"3 warning language-unreachable: a request for the language \"de_\" does not find this catalog | "
 	      "catalog \"c\" (de_)"}},
 	    {"spelling",
 	     head + "<catalog name=\"c\" lang=\"de-AT\"/></xmc>",
@@ -214,6 +308,20 @@ TEST(check_findings, what_loads_and_is_wrong_is_a_warning) {
 	     file_of("<msg name=\"m\">x</msg>\n<msg name=\"m\">y</msg>"),
 	     {"5 warning duplicate-message: the message stands in this language already (line 4), and only the first text "
 	      "is used | catalog \"c\" (en) > msg \"m\""}},
+	    {"no UTF-8",
+	     message_of("a\nb caf\xE9"),
+	     {"5 warning encoding: the message is not UTF-8: the byte 0xE9 begins no character; save the file as UTF-8, "
+	      "and write characters above &#127; themselves | catalog \"c\" (en) > msg \"m\""}},
+	    {"number of a character",
+	     message_of("&#233;"),
+	     {"4 warning encoding: the message is not UTF-8: the byte 0xE9 begins no character; save the file as UTF-8, "
+	      "and write characters above &#127; themselves | catalog \"c\" (en) > msg \"m\""}},
+	    {"control character",
+	     message_of("<arg name=\"n\" meta=\"&#1;\"/>"),
+	     {"4 warning encoding: the message holds the control character 0x01, which is no text | catalog \"c\" (en) > "
+	      "msg \"m\"",
+	      "4 warning attribute-unused: the attribute \"meta\" has no effect, as the argument is text" + in}},
+	    {"UTF-8", message_of("caf\xC3\xA9 \xE2\x80\x8F\t&#195;&#169; <!-- \xFF -->"), {}},
 	    {"argument without name",
 	     message_of("<arg type=\"int\"/>"),
 	     {"4 warning argument-without-name: the argument has no name, so no value can reach it | catalog \"c\" (en) > "
@@ -301,6 +409,19 @@ TEST(check_findings, includes_are_followed) {
 	          check("one.xmc"));
 	EXPECT_EQ(lines{"3 error include-unreadable: the included file \"parts\" can't be read | include"},
 	          check("folder.xmc"));
+}
+
+TEST(check_findings, too_many_includes_are_told) {
+	temporary_directory const directory;
+	auto const name = [](int number) { return std::string("f").append(std::to_string(number)).append(".xmc"); };
+	for (int i = 0; i != 66; ++i) {
+		directory.write(name(i), head + "<include file=\"" + name(i + 1) + "\"/>\n</xmc>");
+	}
+	directory.write("f66.xmc", file_of(""));
+	EXPECT_EQ(
+	    std::vector<std::string>{
+	        "0 error loader: the files include each other more than 64 deep, or more than 4096 times in all"},
+	    told(check_catalogs({(directory.root() / "f0.xmc").string()}, 0), directory.root().string()));
 }
 
 TEST(check_findings, every_kind_has_a_word_of_its_own) {

@@ -72,6 +72,10 @@ TEST(check_hostile, a_hundred_thousand_faults_are_counted) {
 	EXPECT_EQ(1, result.status);
 	EXPECT_TRUE(has(result.out, ": 100000 errors, 0 warnings\n"));
 	EXPECT_LT(result.out.size(), 100000u);
+
+	// A fault that is told by looking back for an entity.
+	result = check(head + repeated("<msg !>x</msg>\n", 100000) + tail);
+	EXPECT_TRUE(has(result.out, ": 100000 errors, 0 warnings\n"));
 }
 
 TEST(check_hostile, deep_nesting_is_no_matter) {

@@ -112,6 +112,10 @@ TEST(check_report, what_cannot_be_read_ends_with_two) {
 	command_result const missing = run_command({"catalog", "check", "no/such\x1B.xmc"});
 	EXPECT_EQ(2, missing.status);
 	EXPECT_EQ("quor: \"no/such\\x1B.xmc\" can't be read\n", missing.err);
+	EXPECT_EQ("0 files, 0 catalogs, 0 languages, 0 texts: 0 errors, 0 warnings, 1 path unreadable\n", missing.out);
+	EXPECT_EQ(2, run_command({"catalog", "check", ""}).status);
+	EXPECT_EQ("quor: --limit: \"-3\" is no count\nTry \"quor --help\".\n",
+	          run_command({"catalog", "check", "--limit", "-3", "."}).err);
 	EXPECT_EQ(2, run_command({"catalog", "check"}).status);
 	EXPECT_EQ(2, run_command({"catalog"}).status);
 	EXPECT_EQ(2, run_command({}).status);
@@ -131,6 +135,17 @@ TEST(check_report, a_file_that_is_included_and_listed_is_told_once) {
 	auto const json = nlohmann::json::parse(run_command({"catalog", "check", "--json", path, path + "/b.xmc"}).out);
 	EXPECT_EQ(3, json.at("files"));
 	EXPECT_EQ(2, json.at("errors"));
+}
+
+TEST(check_report, two_dashes_end_the_options) {
+	temporary_directory const directory;
+	directory.write("a.xmc", broken);
+	directory.write("b.xmc", broken);
+	std::string const a = (directory.root() / "a.xmc").string();
+	std::string const b = (directory.root() / "b.xmc").string();
+	EXPECT_EQ(0u, run_command({"catalog", "check", "--", a, b}).err.size());
+	EXPECT_NE(std::string::npos, run_command({"catalog", "check", a, "--", b}).out.find("2 files"));
+	EXPECT_EQ("quor: \"./--json\" can't be read\n", run_command({"catalog", "check", "--", "--json"}).err);
 }
 
 TEST(check_report, help_and_version_are_clean) {

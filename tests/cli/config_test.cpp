@@ -100,6 +100,18 @@ TEST_F(config, dump_lists_every_source) {
 	          "[environment]\n"
 	          "log = \"on\"\n",
 	          replaced(result.out, file, "FILE"));
+	EXPECT_EQ("[command line]\n"
+	          "a[] = \"1\", \"2\"\n"
+	          "a.7 = \"z\"\n"
+	          "a.x = \"3\"\n"
+	          "application.name = \"program\"\n"
+	          "application.name.raw = \"\"\n"
+	          "b = \"5\"\n"
+	          "b.0 = \"1\"\n"
+	          "b.1 = \"2\"\n"
+	          "[file]\n"
+	          "[environment]\n",
+	          run_command({"config", "dump", "--", "-a=1,2", "-a.7=z", "-a.x=3", "-b=1,2", "-b=5"}).out);
 	EXPECT_EQ("Warning! unknown key:word\nIgnoring key and continuing\n", result.err);
 }
 
@@ -110,6 +122,17 @@ TEST_F(config, a_file_that_cannot_be_used_is_told) {
 	EXPECT_EQ(2, result.status);
 	EXPECT_EQ("quor: \"FILE\" has a key of one byte; keys in files have two or more\n",
 	          replaced(result.err, file, "FILE"));
+}
+
+TEST_F(config, the_command_line_may_name_another_file) {
+	directory.write("t.cfg", "kk = 1\n");
+	std::string const other = (directory.root() / "t.cfg").string();
+	command_result result = run({"explain", "kk", "--", "-cfg_file$" + other});
+	EXPECT_EQ(0, result.status);
+	EXPECT_NE(std::string::npos, result.out.find("  the file \"" + other + "\" wins, as it is")) << result.out;
+	directory.write("t.cfg", "k = 1\n");
+	result = run({"explain", "kk", "--", "-cfg_file$" + other});
+	EXPECT_EQ("quor: \"" + other + "\" has a key of one byte; keys in files have two or more\n", result.err);
 }
 
 // Only a program's own source can refer to other keys.

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "terminal/terminal.hpp"
 
 namespace {
@@ -36,6 +38,29 @@ TEST(terminal, columns_counts_wide_characters_twice) {
 	EXPECT_EQ(1u, columns("a\xCC\x88"));
 	EXPECT_EQ("\xC3\xA4  ", padded("\xC3\xA4", 3));
 	EXPECT_EQ("abc", padded("abc", 2));
+}
+
+TEST(terminal, find_no_text_finds_bytes_that_are_no_text) {
+	using quor_cli::find_no_text;
+	EXPECT_EQ(std::string_view::npos, find_no_text("a\tb\r\n\xC3\xA9\xE2\x80\x8F\xF0\x9F\x98\x80"));
+	EXPECT_EQ(std::string_view::npos, find_no_text(""));
+	EXPECT_EQ(1u, find_no_text("a\xE9"));
+	EXPECT_EQ(2u, find_no_text("\xC3\xA9\xC3"));
+	EXPECT_EQ(0u, find_no_text("\xED\xA0\x80"));
+	EXPECT_EQ(3u, find_no_text(std::string_view("abc\0", 4)));
+	EXPECT_EQ(1u, find_no_text("a\x7F"));
+}
+
+TEST(terminal, progress_bar_stays_within_its_width) {
+	std::ostringstream err;
+	quor_cli::terminal to{err, err, false, false, true};
+	{
+		quor_cli::progress_bar bar(to, "reading");
+		bar.show(1, 2);
+		bar.show(5, 2);
+	}
+	EXPECT_EQ("\rreading [############............] 50%\x1B[K\rreading [########################] 100%\x1B[K\r\x1B[K",
+	          err.str());
 }
 
 } // namespace
