@@ -85,7 +85,11 @@ TEST(posix_catalogs, load_that_runs_out_of_memory_leaves_set_and_loader_usable) 
 	}
 	directory.write("old.xmc", xmc(xmc_catalog("app", "en", {{"k", "old"}})));
 	directory.write("s/inner.xmc", xmc(xmc_catalog("app", "en", messages)));
-	directory.write("main.xmc", xmc("<include file=\"s/inner.xmc\"/><include file=\"old.xmc\"/>"));
+	std::string includes;
+	for (int i = 0; i != 12; ++i) {
+		includes += "<include file=\"s/inner.xmc\"/>";
+	}
+	directory.write("main.xmc", xmc(includes + "<include file=\"old.xmc\"/>"));
 	ustring8 const main = directory.path("main.xmc");
 
 	message_catalogs catalogs;
