@@ -15,7 +15,7 @@ public:
 		if (m_left.empty()) {
 			return false;
 		}
-		std::uint64_t head;
+		std::uint64_t head = 0;
 		std::memcpy(&head, m_left.data(), sizeof head);
 		m_type = static_cast<message_item::type_t>(head & 15U);
 		m_text = m_left.substr(sizeof head, static_cast<std::size_t>(head >> 4U));

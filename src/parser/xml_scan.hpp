@@ -46,7 +46,7 @@ constexpr word all_bytes(unsigned char value) noexcept {
 constexpr word high_bits = all_bytes(0x80);
 
 inline word load(char const *at) noexcept {
-	word bytes;
+	word bytes = 0;
 	std::memcpy(&bytes, at, sizeof bytes);
 	return bytes;
 }
