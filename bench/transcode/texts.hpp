@@ -5,6 +5,7 @@
 // the three encodings.
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,35 +54,48 @@ std::string_view bytes_of(Text const &text) {
 	return {reinterpret_cast<char const *>(text.data()), static_cast<std::size_t>(text.size()) * sizeof(*text.data())};
 }
 
-/// Compares the string that `convert()` gives with what it must be, then measures it.
+/// Measures `convert()`.
 template <class Convert>
-void compete(sample const &text, conversion const &what, char const *competitor, Convert const &convert) {
-	if (text.has_pairs && what.to_utf16) {
-		return;
-	}
-	std::string const name = operation_name(what, text);
-	if (bytes_of(convert()) != what.expected(text)) {
-		bench::disagree(name + " with " + competitor);
-	}
-	bench::operation(name, competitor, [convert](benchmark::State &state) {
+void time_only(sample const &text, conversion const &what, char const *competitor, Convert const &convert) {
+	bench::operation(operation_name(what, text), competitor, [convert](benchmark::State &state) {
 		for (auto _ : state) {
 			benchmark::DoNotOptimize(convert());
 		}
 	});
 }
 
-/// The library takes at most `most` times the competitor's time, in all conversions of
-/// the texts that `which(text)` names.
+/// Compares the string that `convert()` gives with what it must be, then measures it.
+template <class Convert>
+void compete(sample const &text, conversion const &what, char const *competitor, Convert const &convert) {
+	if (text.has_pairs && what.to_utf16) {
+		return;
+	}
+	if (bytes_of(convert()) != what.expected(text)) {
+		bench::disagree(operation_name(what, text) + " with " + competitor);
+	}
+	time_only(text, what, competitor, convert);
+}
+
+/// The library takes at most `most` times the competitor's time, in the conversions `of` the texts
+/// that `which(text)` names.
 template <class Which>
-void limit_all(char const *competitor, double most, double aim, Which which) {
+void limit_some(char const *competitor, std::initializer_list<conversion const *> of, double most, Which which,
+                double aim = 0) {
 	for (sample const &text : samples()) {
-		for (conversion const *what :
-		     {&utf8_to_utf16, &utf8_to_utf32, &utf16_to_utf8, &utf16_to_utf32, &utf32_to_utf8, &utf32_to_utf16}) {
+		for (conversion const *what : of) {
 			if (which(text) && !(text.has_pairs && what->to_utf16)) {
 				bench::limit(operation_name(*what, text), competitor, most, aim);
 			}
 		}
 	}
+}
+
+/// The same in all conversions.
+template <class Which>
+void limit_all(char const *competitor, double most, double aim, Which which) {
+	limit_some(competitor,
+	           {&utf8_to_utf16, &utf8_to_utf32, &utf16_to_utf8, &utf16_to_utf32, &utf32_to_utf8, &utf32_to_utf16}, most,
+	           which, aim);
 }
 
 /// For a competitor that writes into room that it is given: room for `units`, which stays.
