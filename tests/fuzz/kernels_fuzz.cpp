@@ -10,30 +10,20 @@
 
 #include "kernels/kernels.hpp"
 #include "reference/text.hpp"
+#include "support/fuzz_units.hpp"
 #include "support/kernel_checks.hpp"
 
 namespace {
 
 using quor_reference::number;
 using quor_reference::numbers;
+using quor_test::units_from;
 
 void check(std::string const &difference) {
 	if (!difference.empty()) {
 		std::cerr << difference;
 		std::abort();
 	}
-}
-
-numbers units_from(std::uint8_t const *data, std::size_t size, std::size_t width) {
-	numbers units;
-	for (std::size_t i = 0; i + width <= size; i += width) {
-		number unit = 0;
-		for (std::size_t k = 0; k != width; ++k) {
-			unit = unit << 8 | data[i + width - 1 - k];
-		}
-		units.push_back(unit);
-	}
-	return units;
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include <quor/quor.hpp>
 
 #include "reference/text.hpp"
+#include "support/fuzz_units.hpp"
 
 namespace {
 
@@ -29,6 +30,7 @@ using quor::strings::utf32_to_utf8;
 using quor::strings::utf8_to_utf16;
 using quor::strings::utf8_to_utf32;
 using quor::types::uint32;
+using quor_test::units_from;
 using reference::number;
 using reference::numbers;
 using reference::text_of;
@@ -43,18 +45,6 @@ using reference::units_of;
   } while (false)
 
 constexpr std::size_t longest = 4096;
-
-numbers units_from(std::uint8_t const *data, std::size_t size, std::size_t width) {
-	numbers units;
-	for (std::size_t i = 0; i + width <= size; i += width) {
-		number unit = 0;
-		for (std::size_t k = 0; k != width; ++k) {
-			unit = unit << 8 | data[i + width - 1 - k];
-		}
-		units.push_back(unit);
-	}
-	return units;
-}
 
 // Most random 32-bit units are no code points; the lower bits of these are.
 number tamed(number unit) {
