@@ -21,6 +21,11 @@ QUOR_VECTOR_PART void store_long(Unit *out, __m256i vector) noexcept {
 	_mm256_storeu_si256(reinterpret_cast<__m256i *>(out), vector);
 }
 
+/// Copies 32 bytes.
+QUOR_VECTOR_PART void copy_long(char *to, char const *from) noexcept {
+	store_long(to, load_long(from));
+}
+
 QUOR_VECTOR_PART bool any(__m256i vector) noexcept {
 	return _mm256_testz_si256(vector, vector) == 0;
 }
@@ -90,7 +95,8 @@ QUOR_VECTOR_PART bool put_ascii(char *out, types::utf32_char const *in) noexcept
 	return true;
 }
 
-// Sixteen units in the other width, if each is the same number there.
+// Sixteen units in the other width, all written; gives how many come first that are the same
+// number there.
 
 QUOR_VECTOR_PART __m256i surrogates(__m256i units) noexcept {
 	__m256i const kind = _mm256_and_si256(units, _mm256_set1_epi16(static_cast<short>(0xF800)));
@@ -102,23 +108,28 @@ QUOR_VECTOR_PART __m128i surrogates(__m128i units) noexcept {
 	return _mm_cmpeq_epi16(kind, _mm_set1_epi16(static_cast<short>(0xD800)));
 }
 
-QUOR_VECTOR_PART bool change_units(types::utf32_char *out, types::wide_char const *in) noexcept {
+/// How many lanes there are in front of the first that is all ones.
+QUOR_VECTOR_PART std::size_t lanes_before_first(__m256i other) noexcept {
+	auto const bits = static_cast<std::uint32_t>(_mm256_movemask_epi8(other));
+	return bits == 0 ? 16 : static_cast<std::size_t>(__builtin_ctz(bits)) / 2;
+}
+
+QUOR_VECTOR_PART std::size_t change_units(types::utf32_char *out, types::wide_char const *in) noexcept {
 	__m256i const units = load_long(in);
 	store_long(out, _mm256_cvtepu16_epi32(_mm256_castsi256_si128(units)));
 	store_long(out + 8, _mm256_cvtepu16_epi32(_mm256_extracti128_si256(units, 1)));
-	return !any(surrogates(units));
+	return lanes_before_first(surrogates(units));
 }
 
-QUOR_VECTOR_PART bool change_units(types::wide_char *out, types::utf32_char const *in) noexcept {
+QUOR_VECTOR_PART std::size_t change_units(types::wide_char *out, types::utf32_char const *in) noexcept {
 	__m256i const low = load_long(in);
 	__m256i const high = load_long(in + 8);
-	__m256i const units = _mm256_packus_epi32(low, high);
-	// U+FFFF goes with the pairs.
+	// Above U+FFFF they become U+FFFF, which goes with the pairs; the highest bit makes 0.
+	__m256i const units = _mm256_permute4x64_epi64(_mm256_packus_epi32(low, high), 0xD8);
 	__m256i const last = _mm256_cmpeq_epi16(units, _mm256_set1_epi16(-1));
-	__m256i const beyond =
-	    _mm256_and_si256(_mm256_or_si256(low, high), _mm256_set1_epi32(static_cast<int>(0xFFFF0000)));
-	store_long(out, _mm256_permute4x64_epi64(units, 0xD8));
-	return !any(_mm256_or_si256(_mm256_or_si256(last, beyond), surrogates(units)));
+	store_long(out, units);
+	__m256i const highest = _mm256_permute4x64_epi64(_mm256_srai_epi16(_mm256_packs_epi32(low, high), 15), 0xD8);
+	return lanes_before_first(_mm256_or_si256(_mm256_or_si256(last, highest), surrogates(units)));
 }
 
 } // namespace QUOR_2_9::kernels::QUOR_VECTORS

@@ -11,6 +11,12 @@
 /// The parts whose vectors are 16 bytes long.
 namespace QUOR_2_9::kernels::QUOR_VECTORS {
 
+/// Copies 32 bytes.
+QUOR_VECTOR_PART void copy_long(char *to, char const *from) noexcept {
+	store(to, load(from));
+	store(to + 16, load(from + 16));
+}
+
 /// 64 bytes of a text.
 struct block_bytes {
 	__m128i quarters[4];
@@ -89,37 +95,44 @@ QUOR_VECTOR_PART bool put_ascii(char *out, types::utf32_char const *in) noexcept
 	return true;
 }
 
-// Sixteen units in the other width, if each is the same number there.
+// Sixteen units in the other width, all written; gives how many come first that are the same
+// number there.
 
 QUOR_VECTOR_PART __m128i surrogates(__m128i units) noexcept {
 	__m128i const kind = _mm_and_si128(units, _mm_set1_epi16(static_cast<short>(0xF800)));
 	return _mm_cmpeq_epi16(kind, _mm_set1_epi16(static_cast<short>(0xD800)));
 }
 
-QUOR_VECTOR_PART bool change_units(types::utf32_char *out, types::wide_char const *in) noexcept {
-	__m128i other = _mm_setzero_si128();
-	for (int i = 0; i != 16; i += 8) {
-		__m128i const units = load(in + i);
-		other = _mm_or_si128(other, surrogates(units));
-		store(out + i, _mm_cvtepu16_epi32(units));
-		store(out + i + 4, _mm_unpackhi_epi16(units, _mm_setzero_si128()));
-	}
-	return !any(other);
+/// How many lanes of two vectors there are in front of the first that is all ones.
+QUOR_VECTOR_PART std::size_t lanes_before_first(__m128i const (&other)[2]) noexcept {
+	auto const bits = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_packs_epi16(other[0], other[1])));
+	return bits == 0 ? 16 : static_cast<std::size_t>(__builtin_ctz(bits));
 }
 
-QUOR_VECTOR_PART bool change_units(types::wide_char *out, types::utf32_char const *in) noexcept {
-	__m128i other = _mm_setzero_si128();
-	for (int i = 0; i != 16; i += 8) {
-		__m128i const low = load(in + i);
-		__m128i const high = load(in + i + 4);
-		__m128i const units = _mm_packus_epi32(low, high);
-		// U+FFFF goes with the pairs.
-		__m128i const last = _mm_cmpeq_epi16(units, _mm_set1_epi16(-1));
-		__m128i const beyond = _mm_and_si128(_mm_or_si128(low, high), _mm_set1_epi32(static_cast<int>(0xFFFF0000)));
-		other = _mm_or_si128(_mm_or_si128(other, beyond), _mm_or_si128(last, surrogates(units)));
-		store(out + i, units);
+QUOR_VECTOR_PART std::size_t change_units(types::utf32_char *out, types::wide_char const *in) noexcept {
+	__m128i other[2];
+	for (int i = 0; i != 2; ++i) {
+		__m128i const units = load(in + 8 * i);
+		other[i] = surrogates(units);
+		store(out + 8 * i, _mm_cvtepu16_epi32(units));
+		store(out + 8 * i + 4, _mm_unpackhi_epi16(units, _mm_setzero_si128()));
 	}
-	return !any(other);
+	return lanes_before_first(other);
+}
+
+QUOR_VECTOR_PART std::size_t change_units(types::wide_char *out, types::utf32_char const *in) noexcept {
+	__m128i other[2];
+	for (int i = 0; i != 2; ++i) {
+		__m128i const low = load(in + 8 * i);
+		__m128i const high = load(in + 8 * i + 4);
+		// Above U+FFFF they become U+FFFF, which goes with the pairs; the highest bit makes 0.
+		__m128i const units = _mm_packus_epi32(low, high);
+		__m128i const last = _mm_cmpeq_epi16(units, _mm_set1_epi16(-1));
+		__m128i const highest = _mm_srai_epi16(_mm_packs_epi32(low, high), 15);
+		other[i] = _mm_or_si128(_mm_or_si128(last, highest), surrogates(units));
+		store(out + 8 * i, units);
+	}
+	return lanes_before_first(other);
 }
 
 } // namespace QUOR_2_9::kernels::QUOR_VECTORS

@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include <quor/types/widths.hpp>
 
 #include "kernels/steps.hpp"
 #include "kernels/utf8_windows.hpp"
+#include "kernels/vector_rests.hpp"
 #include "kernels/vectors.hpp"
 
 namespace QUOR_2_9::kernels::QUOR_VECTORS {
@@ -198,7 +198,7 @@ template <class Out>
 QUOR_VECTOR_PART bool read_rest(course<char, Out> &at) noexcept {
 	char rest[reach] = {};
 	std::size_t const size = std::min(at.left(), block);
-	std::memcpy(rest, at.in, size);
+	copy_rest(rest, at.in, size);
 	block_bytes const bytes = load_block(rest);
 	sequences const found = judge(bytes);
 	if (!found.well_formed) {

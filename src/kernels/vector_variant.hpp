@@ -3,13 +3,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 
 #include <quor/types/widths.hpp>
 
 #include "kernels/steps.hpp"
 #include "kernels/variants.hpp"
 #include "kernels/vector_read_utf8.hpp"
+#include "kernels/vector_rests.hpp"
 #include "kernels/vector_write_utf8.hpp"
 
 /// The kernels of one kind of vectors, made of its parts.
@@ -21,18 +21,35 @@ inline constexpr std::size_t stride = 16;
 /// What they make at most.
 inline constexpr std::size_t longest_stride = 2 * stride + 2;
 
-/// Fewer units than that, taken for a text that goes on with zeros.
+/// Whether a unit has a step of its own.
+QUOR_VECTOR_PART bool is_other(types::wide_char unit) noexcept {
+	return is_surrogate(unit);
+}
+
+QUOR_VECTOR_PART bool is_other(types::utf32_char unit) noexcept {
+	return unit >= 0xFFFF;
+}
+
+/// Goes on behind some units that kept their numbers: with the others that stand there.
+template <class In, class Out>
+QUOR_VECTOR_PART bool change_others(course<In, Out> &at) noexcept {
+	bool well_formed = step(at);
+	while (well_formed && at.has(1, longest_stride) && is_other(*at.in)) {
+		well_formed = step(at);
+	}
+	return well_formed;
+}
+
+/// Fewer units than a stride, taken for a text that goes on with zeros.
 template <class In, class Out>
 QUOR_VECTOR_PART bool change_rest(course<In, Out> &at) noexcept {
 	In rest[stride] = {};
 	std::size_t const size = std::min(at.left(), stride);
-	std::memcpy(rest, at.in, size * sizeof(In));
-	if (!change_units(at.out, rest)) {
-		return step(at);
-	}
-	at.in += size;
-	at.out += size;
-	return true;
+	copy_rest(rest, at.in, size);
+	std::size_t const same = std::min(change_units(at.out, rest), size);
+	at.in += same;
+	at.out += same;
+	return same == size || change_others(at);
 }
 
 template <class In, class Out>
@@ -40,14 +57,10 @@ QUOR_VECTOR progress change_width(In const *in, std::size_t size, Out *out, std:
 	course<In, Out> at(in, size, out, room);
 	bool well_formed = true;
 	while (well_formed && at.has(stride, longest_stride)) {
-		if (change_units(at.out, at.in)) {
-			at.in += stride;
-			at.out += stride;
-			continue;
-		}
-		for (In const *const stop = at.in + stride; well_formed && at.in < stop;) {
-			well_formed = step(at);
-		}
+		std::size_t const same = change_units(at.out, at.in);
+		at.in += same;
+		at.out += same;
+		well_formed = same == stride || change_others(at);
 	}
 	while (well_formed && at.has(1, longest_stride)) {
 		well_formed = change_rest(at);

@@ -71,32 +71,45 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	return read;
 }
 
-/// A result, and how much of the text came before malformed input.
+/// The text of some units with room for `reserved` at least.
 template <class Target>
-struct conversion {
+Target with_room(typename Target::value_type const *units, std::size_t size, std::size_t reserved) {
 	Target result;
-	std::size_t read;
-};
+	result.reserve(reserved);
+	result.append(units, size);
+	return result;
+}
 
-/// Makes the result with room for `reserved` units at least, and for `room(text)` where
-/// the text is long.
-template <class Target, class Source, class Room>
-conversion<Target> convert(Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved, Room room) {
+/// The result of a long text, with room for `room` units at first. `read` is how much of the text
+/// came before malformed input.
+template <class Target, class Source>
+Target convert_long(Source const &text, kernel_of<Target, Source> kernel, std::size_t room, std::size_t &read) {
+	Target result;
+	result.reserve(room);
+	read = append_long(result, text, kernel);
+	return result;
+}
+
+/// Makes the result with room for `reserved` units at least, and for `room(text)` where the text
+/// is long. What becomes of malformed text is `answer(read)`. The result is built where it is
+/// returned to.
+template <class Target, class Source, class Room, class Answer>
+[[gnu::always_inline]] inline Target convert(Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved,
+                                             Room room, Answer answer) {
 	if (text.size() > short_text) {
-		Target result;
-		result.reserve(std::max(reserved, room(text)));
-		std::size_t const read = append_long(result, text, kernel);
-		return {std::move(result), read};
+		std::size_t read = 0;
+		Target result = convert_long<Target>(text, kernel, std::max(reserved, room(text)), read);
+		if (read != text.size()) {
+			result = answer(read);
+		}
+		return result;
 	}
 	typename Target::value_type units[longest * short_text + kernels::least_room];
 	kernels::progress const made = kernel(text.data(), text.size(), units, std::size(units));
-	if (made.written >= reserved) {
-		return {Target(units, made.written), made.read};
+	if (made.read != text.size()) {
+		return answer(made.read);
 	}
-	Target result;
-	result.reserve(reserved);
-	result.append(units, made.written);
-	return {std::move(result), made.read};
+	return made.written >= reserved ? Target(units, made.written) : with_room<Target>(units, made.written, reserved);
 }
 
 /// The same for those that answer malformed input with "-1". A unit of the text becomes
@@ -105,11 +118,8 @@ template <class Target, class Source>
 Target converted(Source const &text, kernel_of<Target, Source> kernel, std::size_t reserved, std::size_t most) {
 	using unit = typename Target::value_type;
 	auto const room = [most](Source const &from) { return most * from.size(); };
-	conversion<Target> made = convert<Target>(text, kernel, reserved, room);
-	if (made.read != text.size()) {
-		return Target{static_cast<unit>('-'), static_cast<unit>('1')};
-	}
-	return std::move(made.result);
+	auto const answer = [](std::size_t /*read*/) { return Target{static_cast<unit>('-'), static_cast<unit>('1')}; };
+	return convert<Target>(text, kernel, reserved, room, answer);
 }
 
 /// Enough for the code points of a text, and at most twice as many as there are.
@@ -136,14 +146,13 @@ ustring16 utf8_to_utf16(ustring8 const &text) {
 }
 
 ustring32 utf8_to_utf32(ustring8 const &text) {
-	conversion<ustring32> made = convert<ustring32>(text, &kernels::utf8_to_utf32, 0, &room_for_points);
-	if (made.read == text.size()) {
-		return std::move(made.result);
-	}
-	if (made.read != 0) {
-		throw std::length_error("utf8_to_utf32: malformed text");
-	}
-	return ustring32(1, static_cast<utf32_char>('?'));
+	auto const answer = [](std::size_t read) {
+		if (read != 0) {
+			throw std::length_error("utf8_to_utf32: malformed text");
+		}
+		return ustring32(1, static_cast<utf32_char>('?'));
+	};
+	return convert<ustring32>(text, &kernels::utf8_to_utf32, 0, &room_for_points, answer);
 }
 
 ustring8 utf16_to_utf8(ustring16 const &text) {
