@@ -270,11 +270,14 @@ struct plain_text {
 template <class Result, class Unit>
 [[gnu::noinline]] Result read_few(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
 	plain_text<Result, Unit> const plain(text, length);
-	uint32 const known_radix = plain.is_decimal(radix) ? 10 : radix;
-	if (plain.size - 1 < 3 && (known_radix == 10 || known_radix == 16)) [[likely]] {
-		auto const [number, known] = detail::read_few(plain.digits, plain.size, known_radix);
-		if (known) {
-			return with_sign<Result>(number, plain.negative);
+	// A sign alone has no first digit to look at.
+	if (plain.size - 1 < 3) [[likely]] {
+		uint32 const known_radix = plain.is_decimal(radix) ? 10 : radix;
+		if (known_radix == 10 || known_radix == 16) {
+			auto const [number, known] = detail::read_few(plain.digits, plain.size, known_radix);
+			if (known) {
+				return with_sign<Result>(number, plain.negative);
+			}
 		}
 	}
 	return read_any<Result>(text, length, radix, throw_on_range);

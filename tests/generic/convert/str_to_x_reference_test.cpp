@@ -191,6 +191,14 @@ TEST(str_to_x_reference, a_unit_that_is_no_digit_at_every_place_of_every_length)
 	}
 }
 
+TEST(str_to_x_reference, nothing_is_read_behind_what_comes_before_digits) {
+	for (char const *const text : {"-", "+", " ", " -", "0", "\\", "0x", "-0", "-0x", "-\\b"}) {
+		for (std::uint32_t const radix : {0U, 2U, 8U, 10U, 16U, 36U}) {
+			check_block(text, radix, false);
+		}
+	}
+}
+
 TEST(str_to_x_reference, every_length_up_to_300) {
 	std::mt19937 random(4);
 	for (std::size_t size = 1; size <= 300; ++size) {
