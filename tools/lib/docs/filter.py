@@ -1,7 +1,8 @@
 """Prints a page of the tree as Doxygen shall read it.
 
 Headings get names of their own, links between pages become references that Doxygen checks, links
-to examples lead to their pages, and a file's name stands above its text.
+to examples lead to their pages, and a file's name stands above its text. Entities in code stay as
+they are written; of a header's comments this is all that changes.
 
 usage: filter.py FILE
 """
@@ -16,6 +17,13 @@ import pages
 LINK = re.compile(r"(?<!!)\[([^\]\[]+)\]\(([^)\s]+)\)")
 FILE_NOTE = re.compile(r"^<!-- file: (.+?) -->$")
 NAMED = re.compile(r"\{#[^}]*\}\s*$")
+ENTITY = re.compile(r"&(?=[a-z]+;)")
+CODE = re.compile(r"`[^`]+`")
+
+
+def spelled_out(match):
+    """Code with its entities as they are written; Doxygen reads them even there."""
+    return ENTITY.sub("&amp;", match.group(0))
 
 
 def example_page(path):
@@ -77,13 +85,18 @@ class Page:
         match = pages.HEADING.match(line)
         if match:
             return self.heading(*match.groups())
-        return LINK.sub(self.link, line)
+        return LINK.sub(self.link, CODE.sub(spelled_out, line))
 
 
 def main():
     path = posixpath.relpath(sys.argv[1])
+    lines = pathlib.Path(path).read_text(encoding="utf-8").splitlines()
+    if path.endswith(".hpp"):
+        for line in lines:
+            print(ENTITY.sub("&amp;", line) if line.lstrip().startswith("///") else line)
+        return
     page = Page(path)
-    for line in pathlib.Path(path).read_text(encoding="utf-8").splitlines():
+    for line in lines:
         print(page.line(line))
 
 
