@@ -57,11 +57,11 @@ QUOR_API void get_directory_files(strings::ustring32 const &path, std::vector<st
 
 /// The paths of the entries of one directory, files, directories and all else alike, in
 /// the system's order. Each path is that of the directory as it was given, a backslash
-/// and the name. Empty where the directory can't be read, and for a path with a zero unit
-/// in it.
+/// and the name. Empty where the directory can't be read, and for a path with a zero in it.
 ///
-/// The first entry that the system gives is dropped unseen. It is "." nearly everywhere;
-/// on a file system where it isn't (the root of a drive on Windows), an entry is missing.
+/// "." and ".." are left out, and so is the system's first entry, unseen: it is "."
+/// nearly everywhere; on a file system where it isn't (the root of a drive on Windows), an
+/// entry is missing.
 /// @since 2.9
 /// @{
 QUOR_API std::vector<strings::ustring8> list_directory(strings::ustring8 const &path);
