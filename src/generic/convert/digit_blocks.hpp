@@ -75,7 +75,7 @@ template <class Unit>
 template <class Unit>
 [[gnu::always_inline]] inline std::uint64_t load_eight(Unit const *text) noexcept {
 	if constexpr (sizeof(Unit) == 1 && std::endian::native == std::endian::little) {
-		std::uint64_t word;
+		std::uint64_t word = 0;
 		std::memcpy(&word, text, sizeof word);
 		return word;
 	} else {

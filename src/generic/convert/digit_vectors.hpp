@@ -99,7 +99,7 @@ alignas(16) inline constexpr std::int16_t first_of_four[5][8] = {{0, 0, 0, 0, -1
 /// A decimal number of 4 to 8 digits.
 template <class Unit>
 [[gnu::always_inline]] inline block_reading read_decimal(Unit const *text, std::size_t size) noexcept {
-	__m128i const digits = _mm_sub_epi16(load_four_and_four(text, text + size - 4), _mm_set1_epi16('0'));
+	__m128i const digits = _mm_subs_epi16(load_four_and_four(text, text + size - 4), _mm_set1_epi16('0'));
 	__m128i const counted = _mm_and_si128(digits, load_whole(first_of_four[size - 4]));
 	__m128i const pairs = joined(counted, 10);
 	return {put_together(joined(_mm_packs_epi32(pairs, pairs), 100), size - 4), all_zero(above(digits, 9))};
@@ -109,11 +109,11 @@ template <class Unit>
 template <class Unit>
 [[gnu::always_inline]] inline block_reading read_hexadecimal(Unit const *text, std::size_t size) noexcept {
 	__m128i const units = load_four_and_four(text, text + size - 4);
-	__m128i const numerals = above(_mm_sub_epi16(units, _mm_set1_epi16('0')), 9);
-	__m128i const lower = _mm_sub_epi16(_mm_or_si128(units, _mm_set1_epi16(0x20)), _mm_set1_epi16('a'));
+	__m128i const numerals = above(_mm_subs_epi16(units, _mm_set1_epi16('0')), 9);
+	__m128i const lower = _mm_subs_epi16(_mm_or_si128(units, _mm_set1_epi16(0x20)), _mm_set1_epi16('a'));
 	__m128i const letters = _mm_cmpeq_epi16(above(lower, 5), _mm_setzero_si128());
 	__m128i const digits =
-	    _mm_add_epi16(_mm_and_si128(units, _mm_set1_epi16(0x0F)), _mm_and_si128(letters, _mm_set1_epi16(9)));
+	    _mm_adds_epi16(_mm_and_si128(units, _mm_set1_epi16(0x0F)), _mm_and_si128(letters, _mm_set1_epi16(9)));
 	__m128i const counted = _mm_and_si128(digits, load_whole(first_of_four[size - 4]));
 	__m128i const pairs = joined(counted, 16);
 	std::uint64_t const fours = low_word(joined(_mm_packs_epi32(pairs, pairs), 256));
@@ -126,8 +126,8 @@ template <class Unit>
 	constexpr std::uint64_t weight = 100000000;
 	bool const two_vectors = size <= 16;
 	__m128i const zeros = _mm_set1_epi16('0');
-	__m128i first = _mm_sub_epi16(load_eight(two_vectors ? text : text + size - 16), zeros);
-	__m128i const last = _mm_sub_epi16(load_eight(text + size - 8), zeros);
+	__m128i first = _mm_subs_epi16(load_eight(two_vectors ? text : text + size - 16), zeros);
+	__m128i const last = _mm_subs_epi16(load_eight(text + size - 8), zeros);
 	bool const good = all_zero(_mm_or_si128(above(first, 9), above(last, 9)));
 	if (two_vectors) {
 		first = _mm_and_si128(first, load_whole(first_of_eight + 16 - size));
