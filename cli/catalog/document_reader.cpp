@@ -253,7 +253,7 @@ place document_reader::place_in_catalog() const {
 	return where;
 }
 
-void document_reader::add_fault(load_error error) {
+void document_reader::add_fault(load_error const &error) {
 	if (at_end() && m_segment->fault) {
 		return; // the tokens end at a fault of the text, which is told on its own
 	}

@@ -51,7 +51,7 @@ private:
 	bool is(token::token_type type) const { return !at_end() && m_it->type() == type; }
 	bool is(token::token_type type, char const *value) const { return is(type) && m_it->value() == value; }
 
-	void add_fault(load_error error);
+	void add_fault(load_error const &error);
 	void add_fault(finding_kind kind, std::string text, load_error const &error, iterator at);
 	std::size_t line_at(iterator at) const;
 	quor::strings::ustring8 catalog_name() const;
