@@ -26,6 +26,10 @@ QUOR_VECTOR_PART void copy_long(char *to, char const *from) noexcept {
 	store_long(to, load_long(from));
 }
 
+QUOR_VECTOR_PART void clear_long(char *at) noexcept {
+	store_long(at, _mm256_setzero_si256());
+}
+
 QUOR_VECTOR_PART bool any(__m256i vector) noexcept {
 	return _mm256_testz_si256(vector, vector) == 0;
 }

@@ -17,6 +17,11 @@ QUOR_VECTOR_PART void copy_long(char *to, char const *from) noexcept {
 	store(to + 16, load(from + 16));
 }
 
+QUOR_VECTOR_PART void clear_long(char *at) noexcept {
+	store(at, _mm_setzero_si128());
+	store(at + 16, _mm_setzero_si128());
+}
+
 /// 64 bytes of a text.
 struct block_bytes {
 	__m128i quarters[4];

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include <quor/types/widths.hpp>
 
@@ -196,7 +197,12 @@ QUOR_VECTOR_PART std::size_t read_sequences(char const *in, Out *&out, sequences
 /// of which makes one unit that is dropped again.
 template <class Out>
 QUOR_VECTOR_PART bool read_rest(course<char, Out> &at) noexcept {
-	char rest[reach] = {};
+	static_assert(block == 64);
+	char rest[reach];
+	// In the vectors that are loaded from there, which wait for narrower ones otherwise.
+	clear_long(rest);
+	clear_long(rest + 32);
+	std::memset(rest + block, 0, reach - block);
 	std::size_t const size = std::min(at.left(), block);
 	copy_rest(rest, at.in, size);
 	block_bytes const bytes = load_block(rest);

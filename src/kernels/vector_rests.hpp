@@ -15,8 +15,9 @@ QUOR_VECTOR_PART void copy_rest(Unit *to, Unit const *from, std::size_t units) n
 	auto *const out = reinterpret_cast<char *>(to);
 	auto const *const in = reinterpret_cast<char const *>(from);
 	if (size >= 32) {
-		copy_long(out, in);
+		// The first part last: what is loaded from there at once is found whole then.
 		copy_long(out + size - 32, in + size - 32);
+		copy_long(out, in);
 	} else if (size >= 16) {
 		store(out, load(in));
 		store(out + size - 16, load(in + size - 16));

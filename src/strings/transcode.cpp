@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <stdexcept>
 #include <string>
@@ -71,13 +72,46 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	return read;
 }
 
-/// The text of some units with room for `reserved` at least.
+/// Copies a few units, behind which as many may be read as `block` holds. A call of the
+/// general function takes longer than that.
+template <class Unit>
+void copy_few(Unit const *from, std::size_t size, Unit *to) noexcept {
+	constexpr std::size_t block = 16 / sizeof(Unit);
+	if (size < block) {
+		std::copy_n(from, size, to);
+		return;
+	}
+	std::size_t const last = size - block;
+	for (std::size_t i = 0; i < last; i += block) {
+		std::memcpy(to + i, from + i, 16);
+	}
+	std::memcpy(to + last, from + last, 16);
+}
+
+/// The text of a few units with room for `reserved` at least.
 template <class Target>
-Target with_room(typename Target::value_type const *units, std::size_t size, std::size_t reserved) {
+[[gnu::always_inline]] inline Target text_of(typename Target::value_type const *units, std::size_t size,
+                                             std::size_t reserved) {
+#ifdef __cpp_lib_string_resize_and_overwrite
+	Target result;
+	if (reserved > size) {
+		result.reserve(reserved);
+	}
+	// The library may offer more than was asked for.
+	result.resize_and_overwrite(size, [units, size](typename Target::value_type *to, std::size_t /*offered*/) {
+		copy_few(units, size, to);
+		return size;
+	});
+	return result;
+#else
+	if (reserved <= size) {
+		return Target(units, size);
+	}
 	Target result;
 	result.reserve(reserved);
 	result.append(units, size);
 	return result;
+#endif
 }
 
 /// The result of a long text, with room for `room` units at first. `read` is how much of the text
@@ -109,7 +143,7 @@ template <class Target, class Source, class Room, class Answer>
 	if (made.read != text.size()) {
 		return answer(made.read);
 	}
-	return made.written >= reserved ? Target(units, made.written) : with_room<Target>(units, made.written, reserved);
+	return text_of<Target>(units, made.written, reserved);
 }
 
 /// The same for those that answer malformed input with "-1". A unit of the text becomes
