@@ -53,8 +53,7 @@ std::string answer_text(base_config_item const &item, std::string const &key) {
 // Why the first answer is what counts, and what it means.
 std::string reason(config_tree::node_value const &node, config_source const &winner, std::string const &file) {
 	std::string const which = std::string_view(winner.id) == "standard file" ? " \"" + printable(file) + "\"" : "";
-	std::string wins =
-	    "the " + std::string(winner.title) + which + " wins, as it is the first that knows the key";
+	std::string wins = "the " + std::string(winner.title) + which + " wins, as it is the first that knows the key";
 	if (is_array(node)) {
 		return wins + "; of a list, element 0 is the value";
 	}

@@ -5,6 +5,9 @@
 
 #include <quor/types/widths.hpp>
 
+#include "kernels/digit_blocks.hpp"
+#include "kernels/digit_vectors.hpp"
+
 /// The loops that are worth the machine's vectors, behind plain functions. Which variant
 /// runs is chosen by what the processor can, once; it can be called from any thread and
 /// before the static objects of the program are made.
@@ -32,6 +35,13 @@ progress utf16_to_utf32(types::wide_char const *in, std::size_t size, types::utf
 progress utf32_to_utf8(types::utf32_char const *in, std::size_t size, char *out, std::size_t room) noexcept;
 progress utf32_to_utf16(types::utf32_char const *in, std::size_t size, types::wide_char *out,
                         std::size_t room) noexcept;
+
+/// Numbers that are the whole text, by vectors where every processor of the target has them.
+#ifdef __SSE2__
+namespace whole_numbers = digits::vectors;
+#else
+namespace whole_numbers = digits;
+#endif
 
 } // namespace QUOR_2_9::kernels
 

@@ -8,7 +8,7 @@
 
 #include <quor/types/widths.hpp>
 
-#include "generic/convert/digit_blocks.hpp"
+#include "kernels/kernels.hpp"
 #include "support/ascii.hpp"
 
 /// Digits one at a time.
@@ -36,7 +36,8 @@ types::uint32 digit_value(Unit unit) noexcept {
 
 /// A number of one to three digits that is the whole text, in radix 10 or 16.
 template <class Unit>
-[[gnu::always_inline]] inline block_reading read_few(Unit const *text, std::size_t size, types::uint32 radix) noexcept {
+[[gnu::always_inline]] inline kernels::digits::block_reading read_few(Unit const *text, std::size_t size,
+                                                                      types::uint32 radix) noexcept {
 	// What the first and the middle digit count for texts of each size, where they aren't the
 	// last one: their size is hard to guess, so that there is no branch.
 	static constexpr types::uint32 weights[2][4][2] = {{{0, 0}, {0, 0}, {10, 0}, {100, 10}},

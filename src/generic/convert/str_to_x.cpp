@@ -9,9 +9,8 @@
 #include <limits>
 #include <type_traits>
 
-#include "generic/convert/digit_blocks.hpp"
 #include "generic/convert/digit_values.hpp"
-#include "generic/convert/digit_vectors.hpp"
+#include "kernels/kernels.hpp"
 #include "support/ascii.hpp"
 
 namespace QUOR_2_9::generic::convert {
@@ -123,9 +122,10 @@ bool find_digits(cursor<Unit> &at, bool &negative, uint32 &radix, report_site co
 
 /// The number that some text goes on with in radix 10 or 16, where blocks tell it.
 template <class Unit>
-[[gnu::noinline]] detail::block_reading read_at_once(Unit const *digits, std::size_t size, uint32 radix) noexcept {
-	return radix == 10 ? detail::read_start<detail::decimal_block>(digits, size)
-	                   : detail::read_start<detail::hexadecimal_block>(digits, size);
+[[gnu::noinline]] kernels::digits::block_reading read_at_once(Unit const *digits, std::size_t size,
+                                                              uint32 radix) noexcept {
+	return radix == 10 ? kernels::digits::read_start<kernels::digits::decimal_block>(digits, size)
+	                   : kernels::digits::read_start<kernels::digits::hexadecimal_block>(digits, size);
 }
 
 /// Whether a number of digits behind an optional `-` is a `Result` without further ado. Negative
@@ -241,11 +241,7 @@ Result read_any(Unit const *text, uint32 length, uint32 radix, bool throw_on_ran
 	}
 }
 
-#ifdef __SSE2__
-namespace blocks = detail::vectors;
-#else
-namespace blocks = detail;
-#endif
+namespace blocks = kernels::whole_numbers;
 
 /// A text that may be nothing but digits behind an optional `-`.
 template <class Result, class Unit>
@@ -287,7 +283,7 @@ template <class Result, class Unit>
 template <class Result, class Unit>
 [[gnu::noinline]] Result read_long(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
 	plain_text<Result, Unit> const plain(text, length);
-	if (plain.size <= detail::most_digits && plain.is_decimal(radix)) {
+	if (plain.size <= kernels::digits::most_digits && plain.is_decimal(radix)) {
 		auto const [number, known] = blocks::read_long(plain.digits, plain.size);
 		if (known && fits<Result>(number, plain.negative)) {
 			return with_sign<Result>(number, plain.negative);
@@ -308,8 +304,8 @@ template <class Result, class Unit>
 				return with_sign<Result>(digit, plain.negative);
 			}
 		}
-		return plain.size - 9 <= detail::most_digits ? read_long<Result>(text, length, radix, throw_on_range)
-		                                             : read_few<Result>(text, length, radix, throw_on_range);
+		return plain.size - 9 <= kernels::digits::most_digits ? read_long<Result>(text, length, radix, throw_on_range)
+		                                                      : read_few<Result>(text, length, radix, throw_on_range);
 	}
 	if (plain.is_decimal(radix)) {
 		auto const [number, known] = blocks::read_decimal(plain.digits, plain.size);

@@ -13,13 +13,13 @@
 
 #include <quor/quor.hpp>
 
-#include "generic/convert/digit_blocks.hpp"
 #include "generic/convert/digit_values.hpp"
-#include "generic/convert/digit_vectors.hpp"
+#include "kernels/kernels.hpp"
 
 namespace {
 
-namespace blocks = QUOR_2_9::generic::convert::detail;
+namespace blocks = QUOR_2_9::kernels::digits;
+namespace convert = QUOR_2_9::generic::convert::detail;
 namespace types = QUOR_2_9::types;
 using blocks::block_reading;
 
@@ -70,8 +70,8 @@ void check(text const &units) {
 	}
 	Unit const *const at = place.get();
 	if (size <= 3) {
-		expect("few decimal", blocks::read_few(at, size, 10), kept, 10);
-		expect("few hexadecimal", blocks::read_few(at, size, 16), kept, 16);
+		expect("few decimal", convert::read_few(at, size, 10), kept, 10);
+		expect("few hexadecimal", convert::read_few(at, size, 16), kept, 16);
 	}
 	if (size <= 8) {
 		expect("decimal in a word", blocks::read_decimal(at, size), kept, 10);

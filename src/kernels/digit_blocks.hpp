@@ -1,5 +1,5 @@
-#ifndef QUOR_SRC_GENERIC_CONVERT_DIGIT_BLOCKS_HPP
-#define QUOR_SRC_GENERIC_CONVERT_DIGIT_BLOCKS_HPP
+#ifndef QUOR_KERNELS_DIGIT_BLOCKS_HPP
+#define QUOR_KERNELS_DIGIT_BLOCKS_HPP
 
 #include <bit>
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 /// Decimal and hexadecimal digits of text, eight at a time: side by side in one word, where
 /// a few operations judge and add up all of them. Nothing is read beyond the text.
-namespace QUOR_2_9::generic::convert::detail {
+namespace QUOR_2_9::kernels::digits {
 
 /// The same byte eight times.
 constexpr std::uint64_t eight_times(unsigned int byte) noexcept {
@@ -207,6 +207,6 @@ block_reading read_start(Unit const *text, std::size_t size) noexcept {
 	return {Block::value(first), size <= 8};
 }
 
-} // namespace QUOR_2_9::generic::convert::detail
+} // namespace QUOR_2_9::kernels::digits
 
 #endif

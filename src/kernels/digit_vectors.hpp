@@ -1,5 +1,5 @@
-#ifndef QUOR_SRC_GENERIC_CONVERT_DIGIT_VECTORS_HPP
-#define QUOR_SRC_GENERIC_CONVERT_DIGIT_VECTORS_HPP
+#ifndef QUOR_KERNELS_DIGIT_VECTORS_HPP
+#define QUOR_KERNELS_DIGIT_VECTORS_HPP
 
 #include <algorithm>
 #include <cstddef>
@@ -7,8 +7,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "generic/convert/decimal_digits.hpp"
-#include "generic/convert/digit_blocks.hpp"
+#include "kernels/digit_blocks.hpp"
 
 #ifdef __SSE2__
 
@@ -17,7 +16,7 @@
 /// Numbers that are the whole text, their units side by side in vectors of 16 bits each. A
 /// first and a last part of the text are read, which may overlap; of the first one counts
 /// what the last one doesn't hold. Nothing is read beyond the text.
-namespace QUOR_2_9::generic::convert::detail::vectors {
+namespace QUOR_2_9::kernels::digits::vectors {
 
 template <class Place>
 [[gnu::always_inline]] inline __m128i load_half(Place const *place) noexcept {
@@ -120,6 +119,9 @@ template <class Unit>
 	return {((fours & 0xFFFFU) << 4 * (size - 4)) + (fours >> 32), all_zero(_mm_andnot_si128(letters, numerals))};
 }
 
+/// How much more the digits in front of the last eight count than the same number.
+inline constexpr std::uint32_t power_of_ten[9] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
+
 /// A decimal number of 9 to `most_digits` digits.
 template <class Unit>
 [[gnu::always_inline]] inline block_reading read_long(Unit const *text, std::size_t size) noexcept {
@@ -135,7 +137,7 @@ template <class Unit>
 	__m128i const fours = joined(_mm_packs_epi32(joined(first, 10), joined(last, 10)), 100);
 	std::uint64_t const eights = low_word(joined(_mm_packs_epi32(fours, fours), 10000));
 	if (two_vectors) {
-		return {(eights & 0xFFFFFFFFU) * decimal_powers[size - 8] + (eights >> 32), good};
+		return {(eights & 0xFFFFFFFFU) * power_of_ten[size - 8] + (eights >> 32), good};
 	}
 	// The first digit, and the one behind it where there are two.
 	auto const digit_of = [](Unit unit) {
@@ -147,7 +149,7 @@ template <class Unit>
 	return {(lead * weight + (eights & 0xFFFFFFFFU)) * weight + (eights >> 32), good && std::max(digit, more) <= 9};
 }
 
-} // namespace QUOR_2_9::generic::convert::detail::vectors
+} // namespace QUOR_2_9::kernels::digits::vectors
 
 #endif
 
