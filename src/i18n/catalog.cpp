@@ -124,7 +124,10 @@ catalog_t::const_iterator catalog_t::end() const {
 }
 
 void catalog_t::gen_lang_set() const {
-	m_storage->visit([this](storage::record const &one) { m_languages.emplace(one.locale()); });
+	// All of them or none, as a set that isn't empty counts as whole.
+	std::set<ustring8> all(m_languages);
+	m_storage->visit([&all](storage::record const &one) { all.emplace(one.locale()); });
+	m_languages.swap(all);
 }
 
 catalog_t::language_iterator catalog_t::languages_begin() const {

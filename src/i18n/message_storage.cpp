@@ -94,11 +94,17 @@ void catalog_t::storage::reserve(std::size_t count) {
 	m_crowded.swap(others);
 }
 
-void catalog_t::storage::write_texts(record &to, compiled_message const &from) {
-	if (from.locale != m_last_locale) {
-		char *at = static_cast<char *>(m_texts.take(from.locale.size()));
-		m_last_locale = write(at, from.locale);
+/// The same text for all messages of a language.
+std::string_view catalog_t::storage::kept_locale(std::string_view locale) {
+	if (locale != m_last_locale) {
+		auto const found = m_locales.find(locale);
+		m_last_locale = found != m_locales.end() ? *found : *m_locales.emplace(locale).first;
 	}
+	return m_last_locale;
+}
+
+void catalog_t::storage::write_texts(record &to, compiled_message const &from) {
+	std::string_view const locale = kept_locale(from.locale);
 	// Texts that are replaced again and again take no memory each time.
 	std::size_t const size = from.size();
 	char *at = const_cast<char *>(to.m_texts.name.data());
@@ -110,7 +116,7 @@ void catalog_t::storage::write_texts(record &to, compiled_message const &from) {
 	to.m_texts.name = write(at, from.name);
 	to.m_texts.meta = write(at, from.meta);
 	to.m_texts.items = write(at, from.items);
-	to.m_texts.locale = m_last_locale;
+	to.m_texts.locale = locale;
 }
 
 message_t const &catalog_t::storage::message(record const &of) const {
@@ -142,7 +148,7 @@ catalog_t::storage::message_map const &catalog_t::storage::messages() const {
 				waiting.push_back(const_cast<record *>(&one));
 			}
 		});
-		// In the order of the map, where each one is the last one then.
+		// In the order of the map, where each one is the last one unless others were made before.
 		std::sort(waiting.begin(), waiting.end(),
 		          [](record const *a, record const *b) { return a->name() < b->name(); });
 		for (record *const one : waiting) {

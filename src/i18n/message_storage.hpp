@@ -7,6 +7,8 @@
 #include <map>
 #include <mutex>
 #include <new>
+#include <set>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -110,6 +112,7 @@ private:
 	record *find(std::string_view name, std::size_t hash) const noexcept;
 	static void put(places &to, crowd &others, place const &one);
 	void reserve(std::size_t count);
+	std::string_view kept_locale(std::string_view locale);
 	record *new_record() { return new (m_texts.take(sizeof(record))) record; }
 	void write_texts(record &to, detail::compiled_message const &from);
 	element &make(record &of) const;
@@ -123,6 +126,7 @@ private:
 	crowd m_crowded;
 	std::size_t m_size = 0;
 	support::node_blocks m_texts;
+	std::set<std::string, std::less<>> m_locales;
 	std::string_view m_last_locale;
 	// What look-ups make.
 	mutable std::mutex m_making;

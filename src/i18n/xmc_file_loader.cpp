@@ -180,6 +180,10 @@ void xmc_file_loader::start_reading() {
 }
 
 void xmc_file_loader::include_file(ustring8 const &path) {
+	if (m_text_being_read == nullptr) {
+		// Somebody who has tokens of their own asks for it.
+		m_file_count = 0;
+	}
 	if (m_include_depth == max_include_depth || m_file_count == max_files) {
 		throw load_error(load_unexpected, ustring8());
 	}

@@ -19,10 +19,11 @@ types::uint32 xmc_file_loader::merging::copy(xmc_file_loader const &from, catalo
 types::uint32 xmc_file_loader::merging::move(xmc_file_loader &from, catalog_map &to) {
 	types::uint32 stored = 0;
 	for (auto &[name, loaded] : from.m_catalogs) {
+		// One that is there may have been walked, and keeps the end of that walk.
+		bool const is_new = to.find(name) == to.end();
 		catalog_t &catalog = catalog_of(to, name);
-		if (catalog.size() == 0) {
+		if (is_new) {
 			catalog.m_storage.swap(loaded.m_storage);
-			catalog.m_languages.clear();
 			stored += static_cast<types::uint32>(catalog.size());
 		} else {
 			stored += merge(from, loaded, catalog, newer_wins);

@@ -32,6 +32,8 @@ public:
 				return false;
 			}
 			if (m_row.size() + 1 + name.size() <= longest_row) {
+				// Both or none of them, whatever fails.
+				m_row.reserve(m_row.size() + 1 + name.size());
 				m_row.push_back(static_cast<char>(static_cast<unsigned char>(name.size())));
 				m_row.append(name);
 				return true;

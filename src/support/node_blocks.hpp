@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -30,8 +31,8 @@ public:
 	}
 
 private:
-	static constexpr std::size_t alignment = std::max(alignof(std::max_align_t) / 2, alignof(void *));
-	static constexpr std::size_t smallest = 2048;
+	static constexpr std::size_t alignment = std::max({alignof(std::uint64_t), alignof(double), alignof(void *)});
+	static constexpr std::size_t smallest = 512;
 	static constexpr std::size_t largest = 65536;
 
 	std::vector<std::unique_ptr<std::byte[]>> m_blocks;
@@ -41,7 +42,7 @@ private:
 
 	// A block is small beside what is there, so that little is left over at the end.
 	void add(std::size_t bytes) {
-		std::size_t const size = std::max(bytes, std::clamp(m_total / 16, smallest, largest));
+		std::size_t const size = std::max(bytes, std::clamp(m_total / 8, smallest, largest));
 		std::unique_ptr<std::byte[]> block(new std::byte[size]);
 		m_blocks.push_back(std::move(block));
 		m_free = m_blocks.back().get();

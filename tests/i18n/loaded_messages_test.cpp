@@ -11,9 +11,11 @@
 #include <gtest/gtest.h>
 
 #include <quor/i18n/catalog.hpp>
+#include <quor/i18n/message_catalogs.hpp>
 #include <quor/i18n/xmc_file_loader.hpp>
 #include <quor/types/nil.hpp>
 
+#include "support/temporary_directory.hpp"
 #include "support/xmc_text.hpp"
 
 namespace {
@@ -75,6 +77,18 @@ TEST(loaded_messages, the_end_of_a_walk_is_known_first) {
 	auto const end = catalogs["c"]->end();
 	EXPECT_EQ(std::prev(end)->first, "b");
 	EXPECT_EQ(std::prev(end, 2), catalogs["c"]->begin());
+}
+
+TEST(loaded_messages, the_end_of_an_empty_catalog_stays_its_end) {
+	quor_test::temporary_directory const directory;
+	directory.write("empty.xmc", file_of({}, "en"));
+	directory.write("full.xmc", file_of({{"a", "1"}, {"b", "2"}}, "en"));
+	quor::i18n::message_catalogs catalogs;
+	ASSERT_EQ(catalogs.load(directory.path("empty.xmc"), "en"), quor::i18n::message_catalogs::no_error);
+	auto const end = catalogs.end("c");
+	ASSERT_EQ(catalogs.load(directory.path("full.xmc"), "en"), quor::i18n::message_catalogs::no_error);
+	EXPECT_EQ(end, catalogs.end("c"));
+	EXPECT_EQ(std::prev(end)->first, "b");
 }
 
 TEST(loaded_messages, a_reference_leads_to_what_a_later_load_brings) {

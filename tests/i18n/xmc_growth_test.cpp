@@ -1,6 +1,7 @@
 // Loading grows with the file: twice the file, about twice the allocations.
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <string>
 
@@ -199,6 +200,65 @@ TEST(xmc_growth, a_message_that_there_is_no_memory_for_is_made_later) {
 		EXPECT_EQ(copy.begin()->second.count(), 2U);
 	}
 	EXPECT_GT(failures, 1U);
+}
+
+TEST(xmc_growth, languages_that_take_turns_take_the_memory_once) {
+	loader_t one;
+	loader_t other;
+	loader_t *const loaders[] = {&one, &other};
+	char const *const languages[] = {"a language with a name that is long", "fr"};
+	for (std::size_t i : {0U, 1U}) {
+		loaders[i]->handle_language(languages[i]);
+		loaders[i]->parse_string(ustring8(std::string("<?xml?><xmc version='1.0'><catalog name='c' lang='") +
+		                                  languages[i] + "'><msg name='m'>text</msg></catalog></xmc>"),
+		                         "f");
+	}
+	loader_t::catalog_map catalogs;
+	one.combine_data(catalogs);
+	other.combine_data(catalogs);
+	quor_test::allocation_counter const counter;
+	for (int i = 0; i != 10000; ++i) {
+		EXPECT_EQ(one.combine_data(catalogs), 1U);
+		EXPECT_EQ(other.combine_data(catalogs), 1U);
+	}
+	EXPECT_LE(counter.live(), 1);
+	EXPECT_EQ(catalogs["c"]->message("m")._orginal_locale(), "fr");
+}
+
+TEST(xmc_growth, small_catalogs_take_little) {
+	constexpr std::size_t many = 2000;
+	std::string text = "<?xml?><xmc version='1.0'>";
+	for (std::size_t i = 0; i != many; ++i) {
+		text += "<catalog name='" + std::to_string(i) + "' lang='.'><msg name='m'/></catalog>";
+	}
+	ustring8 const file(text + "</xmc>");
+	loader_t loader;
+	loader.handle_language(".");
+	quor_test::allocation_counter const counter;
+	loader.parse_string(file, "f");
+	EXPECT_LT(counter.bytes(), many * 2500);
+}
+
+TEST(xmc_growth, languages_that_there_is_no_memory_for_are_found_later) {
+	loader_t loader;
+	loader.handle_language("a_b_c_d");
+	std::string text = "<?xml?><xmc version='1.0'>";
+	for (char const *const language : {"a", "a_b", "a_b_c", "a_b_c_d"}) {
+		text += std::string("<catalog name='c' lang='") + language + "'><msg name='" + language + "'/></catalog>";
+	}
+	ASSERT_EQ(loader.parse_string(ustring8(text + "</xmc>"), "f").type(), loader_t::load_none);
+	loader_t::catalog_map catalogs;
+	loader.combine_data(catalogs);
+	for (std::size_t index = 0; index != 4; ++index) {
+		quor::i18n::catalog_t const copy(*catalogs["c"]);
+		{
+			quor_test::allocation_failure const failure(index);
+			EXPECT_THROW(copy.gen_lang_set(), std::bad_alloc);
+		}
+		EXPECT_TRUE(copy.is_language_loaded("a"));
+		EXPECT_TRUE(copy.is_language_loaded("a_b_c_d"));
+		EXPECT_EQ(std::distance(copy.languages_begin(), copy.languages_end()), 4);
+	}
 }
 
 } // namespace

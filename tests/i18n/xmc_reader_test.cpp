@@ -10,6 +10,7 @@
 
 #include "reference/xmc_documents.hpp"
 #include "support/random_xml.hpp"
+#include "support/temporary_directory.hpp"
 #include "support/xmc_text.hpp"
 
 namespace {
@@ -281,6 +282,17 @@ TEST(xmc_reader, set_message_keeps_the_heavier_language) {
 	EXPECT_EQ(set(".", "4"), "a: m(en)=3");
 	EXPECT_EQ(set("en", "5"), "a: m(en)=3");
 	EXPECT_EQ(set("de", "6"), "a: m(de)=6");
+}
+
+TEST(xmc_reader, parse_include_by_itself_counts_each_call_anew) {
+	quor_test::temporary_directory const directory;
+	directory.write("a.xmc", "<?xml?><xmc version='1.0'><catalog name='c' lang='.'/></xmc>");
+	probe loader;
+	std::list<token> tokens = tokens_of("s:include n:file v:" + directory.path("a.xmc") + " a: e:include");
+	for (quor::types::uint32 i = 0; i <= xmc_loader::max_files; ++i) {
+		auto it = tokens.begin();
+		ASSERT_NO_THROW(loader.parse_include(it, tokens.end())) << i;
+	}
 }
 
 } // namespace

@@ -1,5 +1,8 @@
 // Work and memory grow with the text: twice the text, about twice the allocations.
 
+#include <new>
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include <quor/parser/xml_token_stream.hpp>
@@ -136,6 +139,27 @@ TEST(parser_growth, deep_and_wide_documents_are_read_and_freed_without_recursion
 	}
 	xml_parser parser;
 	EXPECT_EQ(parser.parse("<?xml?>" + repeated("<a>", many) + repeated("</a>", many)).code(), 0);
+}
+
+// Whatever an attribute ran out of memory for, the next text is read like by a new parser.
+TEST(parser_growth, xml_parser_reads_on_after_a_failed_allocation) {
+	ustring8 const text = "<?xml?><a " + std::string(100, 'b') + "='1' " + std::string(90, 'c') + "='2'/>";
+	std::size_t failures = 0;
+	for (bool happened = true; happened;) {
+		xml_parser const parser;
+		{
+			quor_test::allocation_failure const failure(failures);
+			try {
+				EXPECT_EQ(parser.parse(text).code(), 0);
+			} catch (std::bad_alloc const &) {
+				++failures;
+			}
+			happened = failure.happened();
+		}
+		parser.parse("<?xml?></a x='1'>");
+		parser.parse("<?xml?></a " + std::string(100, 'b') + "='1'>");
+	}
+	EXPECT_GT(failures, 1U);
 }
 
 } // namespace

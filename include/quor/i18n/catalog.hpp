@@ -163,7 +163,7 @@ public:
 	/// The first message.
 	///
 	/// This and `end()` make all messages that a loader brought and nobody has asked for yet:
-	/// linear in these the first time, one lock after that.
+	/// n log n in these the first time, one lock after that.
 	/// @throws std::bad_alloc
 	/// @since 2.9
 	const_iterator begin() const;

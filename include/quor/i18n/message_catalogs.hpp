@@ -106,8 +106,8 @@ public:
 	/// Malformed paths and names in UTF-16 and UTF-32 become "-1".
 	/// @return `no_error`, or `entity_not_found` where there is neither a file nor a
 	/// directory, or the first fault. What was merged before a fault stays.
-	/// @throws std::bad_alloc, std::length_error where a file doesn't fit into memory, with
-	/// nothing of it merged; char const * as `combine_data` does at a null pointer in the map.
+	/// @throws std::bad_alloc, std::length_error where a file doesn't fit into memory; some of its
+	/// messages may be merged by then; char const * as `combine_data` does at a null pointer in the map.
 	/// Untrusted input: files are safe; work and memory are linear in what is read.
 	/// @since 2.9
 	/// @{
