@@ -37,7 +37,7 @@ std::uint64_t load_four_slowly(Unit const *text) noexcept {
 }
 
 #ifdef __SSE2__
-/// Four wide units and four others above them. They saturate: above 0xFF, or to 0.
+/// Four wide units and four others above them. Those beyond 0xFF become 0xFF or 0, no digits either.
 template <class Unit>
 [[gnu::always_inline]] inline std::uint64_t load_wide(Unit const *low, Unit const *high) noexcept {
 	__m128i words;

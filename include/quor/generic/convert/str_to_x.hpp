@@ -16,7 +16,8 @@
 /// Length. Counts units; the text is never null. 0 makes the signed functions measure
 /// the text up to its zero unit. The unsigned ones measure nothing: with 0 they read the
 /// first unit alone (`str_to_uint32("123", 0, 10, true)` is 1). A zero unit ends the
-/// scan always.
+/// number like any other that is no digit, but all units of the length have to be there:
+/// those behind the number may be read too.
 ///
 /// Radix. An enumerator of `types::radix_t::base` or a plain integer. 0 looks at the
 /// prefix: `0x` is 16, `0b` is 2, `0` and more is 8, anything else 10; a backslash
