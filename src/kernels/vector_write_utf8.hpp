@@ -55,19 +55,25 @@ QUOR_VECTOR_PART char *put_up_to_three(char *out, __m128i points) noexcept {
 	return put_pack(out, _mm_unpackhi_epi16(ends, first), packs.of_three[(forms >> 4 & 0x0F) | (forms >> 8 & 0xF0)]);
 }
 
-// The next 8 units, and lanes that aren't zero where they aren't code points below 0x10000.
+/// Eight units as code points below 0x10000, and lanes that aren't zero where they are more.
+struct eight_units {
+	__m128i points;
+	__m128i beyond;
+};
 
-QUOR_VECTOR_PART __m128i next_points(types::wide_char const *in, __m128i &points) noexcept {
-	points = load(in);
-	return surrogates(points);
+QUOR_VECTOR_PART eight_units load_eight(types::wide_char const *in) noexcept {
+	return {load(in), _mm_setzero_si128()};
 }
 
-QUOR_VECTOR_PART __m128i next_points(types::utf32_char const *in, __m128i &points) noexcept {
+QUOR_VECTOR_PART eight_units load_eight(types::utf32_char const *in) noexcept {
 	__m128i const low = load(in);
 	__m128i const high = load(in + 4);
-	points = _mm_packus_epi32(low, high);
-	__m128i const beyond = _mm_packus_epi32(_mm_srli_epi32(low, 16), _mm_srli_epi32(high, 16));
-	return _mm_or_si128(surrogates(points), beyond);
+	return {_mm_packus_epi32(low, high), _mm_packus_epi32(_mm_srli_epi32(low, 16), _mm_srli_epi32(high, 16))};
+}
+
+/// Lanes that aren't zero where the units need a look of their own.
+QUOR_VECTOR_PART __m128i others(eight_units const &units) noexcept {
+	return _mm_or_si128(surrogates(units.points), units.beyond);
 }
 
 /// How many units are judged together: the form of the longest decides for all, which is
@@ -84,23 +90,24 @@ QUOR_VECTOR_PART bool write_group(course<In, char> &at) noexcept {
 		at.out += group;
 		return true;
 	}
-	__m128i points[4];
+	eight_units units[4];
 	__m128i other = _mm_setzero_si128();
 	__m128i all = _mm_setzero_si128();
 	for (int i = 0; i != 4; ++i) {
-		other = _mm_or_si128(other, next_points(at.in + 8 * i, points[i]));
-		all = _mm_or_si128(all, points[i]);
+		units[i] = load_eight(at.in + 8 * i);
+		other = _mm_or_si128(other, others(units[i]));
+		all = _mm_or_si128(all, units[i].points);
 	}
 	if (any(other)) {
 		return false;
 	}
 	if (!any(_mm_and_si128(all, _mm_set1_epi16(static_cast<short>(0xF800))))) {
-		for (__m128i const &eight : points) {
-			at.out = put_up_to_two(at.out, eight);
+		for (eight_units const &eight : units) {
+			at.out = put_up_to_two(at.out, eight.points);
 		}
 	} else {
-		for (__m128i const &eight : points) {
-			at.out = put_up_to_three(at.out, eight);
+		for (eight_units const &eight : units) {
+			at.out = put_up_to_three(at.out, eight.points);
 		}
 	}
 	at.in += group;
@@ -116,62 +123,97 @@ QUOR_VECTOR_PART char *put_first(char *out, __m128i points, std::size_t count) n
 	return put_up_to_three(out, _mm_and_si128(points, load(first_lanes + 8 - count))) - (8 - count);
 }
 
-/// How many lanes there are in front of the first that isn't zero.
-QUOR_VECTOR_PART std::size_t lanes_before(__m128i other) noexcept {
-	auto const zeros = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi16(other, _mm_setzero_si128())));
-	return static_cast<std::size_t>(std::countr_one(zeros)) / 2;
+/// What is zero in the lanes of ASCII.
+QUOR_VECTOR_PART __m128i beyond_ascii(eight_units const &units) noexcept {
+	return _mm_and_si128(_mm_or_si128(units.points, units.beyond), _mm_set1_epi16(static_cast<short>(0xFF80)));
+}
+
+/// A bit for each lane that isn't zero.
+QUOR_VECTOR_PART std::uint32_t bits_of(__m128i lanes) noexcept {
+	__m128i const zeros = _mm_cmpeq_epi16(lanes, _mm_setzero_si128());
+	return (static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_packs_epi16(zeros, zeros))) & 0xFF) ^ 0xFF;
+}
+
+/// Whether so few of 8 units are marked that they are written one by one: where the next unit
+/// goes is guessed by the processor then, while the vectors would have to be waited for.
+constexpr bool few(std::uint32_t marks) noexcept {
+	marks &= marks - 1;
+	marks &= marks - 1;
+	return marks == 0;
+}
+
+/// Writes what of 8 units is in front of the first mark.
+template <class In>
+QUOR_VECTOR_PART void write_run(course<In, char> &at, eight_units const &units, std::size_t run) noexcept {
+	store_half(at.out, _mm_packus_epi16(units.points, units.points));
+	at.in += run;
+	at.out += run;
 }
 
 /// Eight units, or those up to the first that needs a look of its own, and that one.
 template <class In>
 QUOR_VECTOR_PART bool write_eight(course<In, char> &at) noexcept {
-	__m128i points;
-	__m128i const other = next_points(at.in, points);
-	if (any(other)) {
-		std::size_t const count = lanes_before(other);
-		at.out = put_first(at.out, points, count);
-		at.in += count;
+	eight_units const units = load_eight(at.in);
+	__m128i const marked = beyond_ascii(units);
+	if (!any(marked)) {
+		write_run(at, units, 8);
+		return true;
+	}
+	std::uint32_t const marks = bits_of(marked);
+	if (few(marks)) {
+		write_run(at, units, static_cast<std::size_t>(std::countr_zero(marks)));
 		return step(at);
 	}
-	at.out = put_up_to_three(at.out, points);
+	__m128i const other = others(units);
+	if (any(other)) {
+		auto const same = static_cast<std::size_t>(std::countr_zero(bits_of(other)));
+		at.out = put_first(at.out, units.points, same);
+		at.in += same;
+		return step(at);
+	}
+	at.out = put_up_to_three(at.out, units.points);
 	at.in += 8;
 	return true;
 }
 
-/// Moves a vector down by as many bytes as lie in front of what is loaded from here.
-inline constexpr std::uint8_t slide[32] = {0,    1,    2,    3,    4,    5,    6,    7,    8,    9,    10,
-                                           11,   12,   13,   14,   15,   0x80, 0x80, 0x80, 0x80, 0x80, 0x80,
-                                           0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80};
-
-/// The last units of the text, fewer than eight, and zeros behind them.
+/// The last units of a text, fewer than eight. If there are eight, they are loaded together and
+/// those in front of the last are shifted out.
 template <class In>
-QUOR_VECTOR_PART __m128i last_points(course<In, char> const &at, __m128i &points) noexcept {
-	if constexpr (sizeof(In) == 2) {
-		if (at.end - at.begin >= 8) {
-			points = _mm_shuffle_epi8(load(at.end - 8), load(slide + sizeof(In) * (8 - at.left())));
-			return surrogates(points);
+QUOR_VECTOR_PART void write_last(course<In, char> &at) noexcept {
+	if (at.end - at.begin >= 8) {
+		eight_units const units = load_eight(at.end - 8);
+		std::size_t const others = 8 - at.left();
+		if (bits_of(beyond_ascii(units)) >> others == 0) {
+			__m128i const bytes = _mm_packus_epi16(units.points, units.points);
+			store_half(at.out, _mm_srl_epi64(bytes, _mm_cvtsi32_si128(static_cast<int>(8 * others))));
+			at.out += at.left();
+			at.in = at.end;
+			return;
 		}
 	}
-	In rest[8] = {};
-	std::memcpy(rest, at.in, at.left() * sizeof(In));
-	return next_points(rest, points);
+	while (at.left() != 0 && step(at)) {
+	}
 }
 
-/// The same for fewer than eight units.
-template <class In>
-QUOR_VECTOR_PART bool write_rest(course<In, char> &at) noexcept {
-	__m128i points;
-	__m128i const other = last_points(at, points);
-	std::size_t const count = std::min(at.left(), lanes_before(other));
-	bool const all = count == at.left();
-	at.out = put_first(at.out, points, count);
-	at.in += count;
-	return all || step(at);
-}
-
+/// Fewer units than a group.
 template <class In>
 // What is written goes by way of the course. NOLINTNEXTLINE(readability-non-const-parameter)
-QUOR_VECTOR progress write_utf8(In const *in, std::size_t size, char *out, std::size_t room) noexcept {
+QUOR_VECTOR progress write_few(In const *in, std::size_t size, char *out) noexcept {
+	course<In, char> at(in, size, out, longest_group);
+	bool well_formed = true;
+	while (well_formed && at.left() >= 8) {
+		well_formed = write_eight(at);
+	}
+	if (well_formed && at.left() != 0) {
+		write_last(at);
+	}
+	return at.made();
+}
+
+/// Groups, and the few units behind them.
+template <class In>
+// What is written goes by way of the course. NOLINTNEXTLINE(readability-non-const-parameter)
+QUOR_VECTOR progress write_many(In const *in, std::size_t size, char *out, std::size_t room) noexcept {
 	course<In, char> at(in, size, out, room);
 	bool well_formed = true;
 	while (well_formed && at.has(group, longest_group)) {
@@ -181,10 +223,17 @@ QUOR_VECTOR progress write_utf8(In const *in, std::size_t size, char *out, std::
 			}
 		}
 	}
-	while (well_formed && at.has(1, longest_group)) {
-		well_formed = at.left() < 8 ? write_rest(at) : write_eight(at);
+	if (well_formed && at.has(1, longest_group)) {
+		progress const more = write_few(at.in, at.left(), at.out);
+		at.in += more.read;
+		at.out += more.written;
 	}
 	return at.made();
+}
+
+template <class In>
+QUOR_VECTOR progress write_utf8(In const *in, std::size_t size, char *out, std::size_t room) noexcept {
+	return size >= group || room < longest_group ? write_many(in, size, out, room) : write_few(in, size, out);
 }
 
 } // namespace QUOR_2_9::kernels::QUOR_VECTORS
