@@ -50,10 +50,9 @@ QUOR_VECTOR_PART std::uint64_t high_bits(block_bytes const &bytes) noexcept {
 	       static_cast<std::uint32_t>(_mm256_movemask_epi8(bytes.low));
 }
 
-/// Which bytes, as signed numbers, are above `bound`.
-QUOR_VECTOR_PART std::uint64_t above(block_bytes const &bytes, signed char bound) noexcept {
-	__m256i const all = _mm256_set1_epi8(bound);
-	return high_bits({_mm256_cmpgt_epi8(bytes.low, all), _mm256_cmpgt_epi8(bytes.high, all)});
+/// Each byte twice as large, without its highest bit.
+QUOR_VECTOR_PART block_bytes doubled(block_bytes const &bytes) noexcept {
+	return {_mm256_add_epi8(bytes.low, bytes.low), _mm256_add_epi8(bytes.high, bytes.high)};
 }
 
 /// Sixteen code points, each a byte.

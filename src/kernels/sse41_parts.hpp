@@ -40,14 +40,13 @@ QUOR_VECTOR_PART std::uint64_t high_bits(block_bytes const &bytes) noexcept {
 	return all;
 }
 
-/// Which bytes, as signed numbers, are above `bound`.
-QUOR_VECTOR_PART std::uint64_t above(block_bytes const &bytes, signed char bound) noexcept {
-	__m128i const all = _mm_set1_epi8(bound);
-	block_bytes greater;
+/// Each byte twice as large, without its highest bit.
+QUOR_VECTOR_PART block_bytes doubled(block_bytes const &bytes) noexcept {
+	block_bytes made;
 	for (int i = 0; i != 4; ++i) {
-		greater.quarters[i] = _mm_cmpgt_epi8(bytes.quarters[i], all);
+		made.quarters[i] = _mm_add_epi8(bytes.quarters[i], bytes.quarters[i]);
 	}
-	return high_bits(greater);
+	return made;
 }
 
 /// Sixteen code points, each a byte.

@@ -21,12 +21,16 @@ inline constexpr std::size_t block = 64;
 /// What is read of a text at a time: a block, and the last vector's part behind it.
 inline constexpr std::size_t reach = block + 4;
 
-/// Which bytes of a block are the last of a sequence; the last one never is.
+/// Which bytes of a block are the last of a sequence; the last one never is. And which are of
+/// more than one byte and lead sequences of three or more.
 struct sequences {
 	std::uint64_t ends;
+	std::uint64_t high;
+	std::uint64_t of_three;
 	bool well_formed;
-	bool ascii;
-	bool up_to_two;
+
+	bool ascii() const noexcept { return high == 0; }
+	bool up_to_two() const noexcept { return of_three == 0; }
 };
 
 /// Looks at a block that begins where a sequence does. It is well-formed when the
@@ -34,19 +38,23 @@ struct sequences {
 QUOR_VECTOR_PART sequences judge(block_bytes const &bytes) noexcept {
 	std::uint64_t const high = high_bits(bytes);
 	if (high == 0) {
-		return {0, true, true, true};
+		return {0, 0, 0, true};
 	}
-	std::uint64_t const leads = above(bytes, static_cast<signed char>(0xBF)) & high;
+	// Each bit takes the place of the one in front of it.
+	block_bytes moved = doubled(bytes);
+	std::uint64_t const leads = high_bits(moved) & high;
 	std::uint64_t const continuations = high & ~leads;
 	std::uint64_t const ends = ~continuations >> 1;
-	std::uint64_t const of_three = above(bytes, static_cast<signed char>(0xDF)) & high;
+	moved = doubled(moved);
+	std::uint64_t const of_three = high_bits(moved) & leads;
 	if (of_three == 0) {
-		return {ends, continuations == leads << 1, false, true};
+		return {ends, high, 0, continuations == leads << 1};
 	}
-	std::uint64_t const of_four = above(bytes, static_cast<signed char>(0xEF)) & high;
-	std::uint64_t const of_more = above(bytes, static_cast<signed char>(0xF7)) & high;
+	moved = doubled(moved);
+	std::uint64_t const of_four = high_bits(moved) & of_three;
+	std::uint64_t const of_more = high_bits(doubled(moved)) & of_four;
 	std::uint64_t const asked = leads << 1 | of_three << 2 | of_four << 3;
-	return {ends, continuations == asked && of_more == 0, false, false};
+	return {ends, high, of_three, ((continuations ^ asked) | of_more) == 0};
 }
 
 // The code points of a window, from its bytes in their lanes.
@@ -160,8 +168,19 @@ QUOR_VECTOR_PART std::size_t read_up_to_two(char const *in, Out *&out, std::uint
 	return from;
 }
 
-/// The same for any sequences.
+/// A window of six sequences or of four, where what comes next is worth a guess: in a few bytes.
 template <class Out>
+QUOR_VECTOR_PART int put_guessed(Out *out, __m128i lanes, bool six) noexcept {
+	if (six) {
+		put_eight(out, points_of_two(lanes));
+		return 6;
+	}
+	put_four(out, points_of_three(lanes));
+	return 4;
+}
+
+/// The same for any sequences.
+template <bool Few, class Out>
 QUOR_VECTOR_PART std::size_t read_any(char const *in, Out *&out, std::uint64_t ends, std::size_t last) noexcept {
 	constexpr std::uint64_t four_of_three = 0x924;
 	__m128i const shuffle_of_three = load(windows.shuffles[windows.windows[four_of_three].shuffle]);
@@ -181,16 +200,17 @@ QUOR_VECTOR_PART std::size_t read_any(char const *in, Out *&out, std::uint64_t e
 		if (window.shuffle >= utf8_windows::of_four) {
 			out = put_three(out, points_of_four(lanes), lanes);
 		} else {
-			out += put_window(out, lanes, window.shuffle < utf8_windows::of_three);
+			bool const six = window.shuffle < utf8_windows::of_three;
+			out += Few ? put_guessed(out, lanes, six) : put_window(out, lanes, six);
 		}
 	}
 	return from;
 }
 
-template <class Out>
+template <bool Few, class Out>
 QUOR_VECTOR_PART std::size_t read_sequences(char const *in, Out *&out, sequences const &found,
                                             std::size_t last) noexcept {
-	return found.up_to_two ? read_up_to_two(in, out, found.ends, last) : read_any(in, out, found.ends, last);
+	return found.up_to_two() ? read_up_to_two(in, out, found.ends, last) : read_any<Few>(in, out, found.ends, last);
 }
 
 /// What is too short to be read as a block is taken for one that goes on with zeros, each
@@ -210,13 +230,13 @@ QUOR_VECTOR_PART bool read_rest(course<char, Out> &at) noexcept {
 	if (!found.well_formed) {
 		return false;
 	}
-	if (found.ascii) {
+	if (found.ascii()) {
 		put_block(at.out, bytes);
 		at.in += size;
 		at.out += size;
 		return true;
 	}
-	std::size_t const made = read_sequences(rest, at.out, found, std::min(size, last_window));
+	std::size_t const made = read_sequences<true>(rest, at.out, found, std::min(size, last_window));
 	at.in += std::min(made, size);
 	at.out -= made - std::min(made, size);
 	return true;
@@ -230,12 +250,12 @@ QUOR_VECTOR progress read_utf8(char const *in, std::size_t size, Out *out, std::
 		block_bytes const bytes = load_block(at.in);
 		sequences const found = judge(bytes);
 		well_formed = found.well_formed;
-		if (found.ascii) {
+		if (found.ascii()) {
 			put_block(at.out, bytes);
 			at.in += block;
 			at.out += block;
 		} else if (well_formed) {
-			at.in += read_sequences(at.in, at.out, found, last_window);
+			at.in += read_sequences<false>(at.in, at.out, found, last_window);
 		}
 	}
 	while (well_formed && at.has(1, block + 16)) {
