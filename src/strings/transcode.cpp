@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "kernels/ascii_blocks.hpp"
 #include "kernels/decode.hpp"
 #include "kernels/kernels.hpp"
 
@@ -72,46 +73,35 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	return read;
 }
 
-/// Copies a few units, behind which as many may be read as `block` holds. A call of the
-/// general function takes longer than that.
-template <class Unit>
-void copy_few(Unit const *from, std::size_t size, Unit *to) noexcept {
-	constexpr std::size_t block = 16 / sizeof(Unit);
-	if (size < block) {
+/// Copies a few units, those of another width if they are ASCII. Behind them as many may be read
+/// as a block holds. A call of the general function takes longer than that.
+template <class In, class Out>
+[[gnu::always_inline]] inline void copy_few(In const *from, std::size_t size, Out *to) noexcept {
+	if (size >= kernels::ascii::block) {
+		kernels::ascii::copy_text(from, size, to);
+	} else {
 		std::copy_n(from, size, to);
-		return;
 	}
-	std::size_t const last = size - block;
-	for (std::size_t i = 0; i < last; i += block) {
-		std::memcpy(to + i, from + i, 16);
-	}
-	std::memcpy(to + last, from + last, 16);
 }
 
 /// The text of a few units with room for `reserved` at least.
-template <class Target>
-[[gnu::always_inline]] inline Target text_of(typename Target::value_type const *units, std::size_t size,
-                                             std::size_t reserved) {
-#ifdef __cpp_lib_string_resize_and_overwrite
+template <class Target, class Unit>
+[[gnu::always_inline]] inline Target text_of(Unit const *units, std::size_t size, std::size_t reserved) {
 	Target result;
 	if (reserved > size) {
 		result.reserve(reserved);
 	}
+#ifdef __cpp_lib_string_resize_and_overwrite
 	// The library may offer more than was asked for.
 	result.resize_and_overwrite(size, [units, size](typename Target::value_type *to, std::size_t /*offered*/) {
 		copy_few(units, size, to);
 		return size;
 	});
-	return result;
 #else
-	if (reserved <= size) {
-		return Target(units, size);
-	}
-	Target result;
-	result.reserve(reserved);
-	result.append(units, size);
-	return result;
+	result.resize(size);
+	copy_few(units, size, result.data());
 #endif
+	return result;
 }
 
 /// The result of a long text, with room for `room` units at first. `read` is how much of the text
@@ -137,6 +127,9 @@ template <class Target, class Source, class Room, class Answer>
 			result = answer(read);
 		}
 		return result;
+	}
+	if (text.size() >= kernels::ascii::block && kernels::ascii::is_text(text.data(), text.size())) {
+		return text_of<Target>(text.data(), text.size(), reserved);
 	}
 	typename Target::value_type units[longest * short_text + kernels::least_room];
 	kernels::progress const made = kernel(text.data(), text.size(), units, std::size(units));
