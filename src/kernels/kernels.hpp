@@ -5,6 +5,8 @@
 
 #include <quor/types/widths.hpp>
 
+#include "kernels/ascii_blocks.hpp"
+#include "kernels/byte_blocks.hpp"
 #include "kernels/digit_blocks.hpp"
 #include "kernels/digit_vectors.hpp"
 

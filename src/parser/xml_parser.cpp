@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "parser/xml_reader.hpp"
+#include "support/short_copy.hpp"
 
 namespace QUOR_2_9::parser {
 
@@ -35,8 +36,8 @@ public:
 	void attribute(std::string_view name, std::string_view value) {
 		if (m_parser.m_attribute) {
 			move_iterator();
-			m_first.assign(name);
-			m_second.assign(value);
+			refill(m_first, name);
+			refill(m_second, value);
 			m_parser.m_attribute(m_first, m_second);
 		}
 	}
@@ -50,12 +51,25 @@ private:
 	ustring8 m_first;
 	ustring8 m_second;
 
-	void move_iterator() noexcept { m_it = m_begin + (m_reader.at() - m_text); }
+	static void refill(ustring8 &string, std::string_view text) {
+#ifdef __cpp_lib_string_resize_and_overwrite
+		string.resize_and_overwrite(text.size(), [text](char *units, std::size_t /*offered*/) {
+			support::copy_short(units, text.data(), text.size());
+			return text.size();
+		});
+#else
+		string.assign(text);
+#endif
+	}
+
+	void move_iterator() noexcept {
+		m_it = m_begin + (m_reader.at() - m_text);
+	}
 
 	void report(text_delegate const &delegate, std::string_view text) {
 		if (delegate) {
 			move_iterator();
-			m_first.assign(text);
+			refill(m_first, text);
 			delegate(m_first);
 		}
 	}

@@ -1,18 +1,17 @@
 #ifndef QUOR_SRC_PARSER_XML_SCAN_HPP
 #define QUOR_SRC_PARSER_XML_SCAN_HPP
 
-// Steps over the bytes of a name, a text or a value up to the one that ends it, eight at a
+// Steps over the bytes of a name, a text or a value up to the one that ends it, a block at a
 // time where there are as many.
 
 #include <array>
-#include <bit>
 #include <climits>
 #include <cstddef>
-#include <cstdint>
 #include <cstring>
 
 #include <quor/types/widths.hpp>
 
+#include "kernels/kernels.hpp"
 #include "parser/xml_bytes.hpp"
 
 namespace QUOR_2_9::parser::detail {
@@ -35,37 +34,11 @@ inline bool is_of(char c, byte_class wanted) noexcept {
 	return (byte_classes[static_cast<unsigned char>(c)] & wanted) != 0;
 }
 
-// Eight bytes, the first one lowest. In a mask the high bit of a byte tells of it, reliably
-// up to the lowest one that is set.
-using word = std::uint64_t;
+using kernels::blocks_work;
 
-constexpr word all_bytes(unsigned char value) noexcept {
-	return word(0x0101010101010101) * value;
+inline bool has_block(char const *at, char const *end, std::size_t size) noexcept {
+	return end - at >= static_cast<std::ptrdiff_t>(size);
 }
-
-constexpr word high_bits = all_bytes(0x80);
-
-inline word load(char const *at) noexcept {
-	word bytes = 0;
-	std::memcpy(&bytes, at, sizeof bytes);
-	return bytes;
-}
-
-constexpr word equal_to(word bytes, char c) noexcept {
-	word const zero_where_equal = bytes ^ all_bytes(static_cast<unsigned char>(c));
-	return (zero_where_equal - all_bytes(1)) & ~zero_where_equal & high_bits;
-}
-
-// Bytes up to the blank, the control characters among them. Reliable for each byte.
-constexpr word up_to_blank(word bytes) noexcept {
-	return ~(((bytes & ~high_bits) + all_bytes(0x7F - ' ')) | bytes) & high_bits;
-}
-
-inline std::size_t lowest(word mask) noexcept {
-	return static_cast<std::size_t>(std::countr_zero(mask)) / CHAR_BIT;
-}
-
-inline constexpr bool words_help = std::endian::native == std::endian::little;
 
 inline char const *end_of_name(char const *at, char const *end) noexcept {
 	while (at != end && is_of(*at, name_byte)) {
@@ -88,18 +61,19 @@ inline bool ends_text(char const *at, char const *end) noexcept {
 }
 
 // The first "<", "&" or white space in front of other white space, or the end.
-inline char const *end_of_text(char const *at, char const *end) noexcept {
-	if constexpr (words_help) {
-		while (end - at >= std::ptrdiff_t(sizeof(word))) {
-			word const bytes = load(at);
-			word const blanks = up_to_blank(bytes);
-			word const found = equal_to(bytes, '<') | equal_to(bytes, '&') | (blanks & (blanks >> CHAR_BIT));
+template <class Block = kernels::byte_block>
+char const *end_of_text(char const *at, char const *end) noexcept {
+	if constexpr (blocks_work) {
+		while (has_block(at, end, Block::size)) {
+			Block const bytes(at);
+			auto const blanks = bytes.up_to(' ');
+			auto const found = bytes.equal_to('<') | bytes.equal_to('&') | (blanks & Block::moved(blanks));
 			if (found == 0) {
 				// The last byte may be the first of two.
-				at += sizeof(word) - 1;
+				at += Block::size - 1;
 				continue;
 			}
-			at += lowest(found);
+			at += Block::position(found);
 			if (ends_text(at, end)) {
 				return at;
 			}
@@ -117,15 +91,15 @@ inline bool ends_value(char c, char quote) noexcept {
 }
 
 // The first quote of this kind, "<" or "&", or the end.
-inline char const *end_of_value(char const *at, char const *end, char quote) noexcept {
-	if constexpr (words_help) {
-		while (end - at >= std::ptrdiff_t(sizeof(word))) {
-			word const bytes = load(at);
-			word const found = equal_to(bytes, quote) | equal_to(bytes, '<') | equal_to(bytes, '&');
+template <class Block = kernels::byte_block>
+char const *end_of_value(char const *at, char const *end, char quote) noexcept {
+	if constexpr (blocks_work) {
+		for (; has_block(at, end, Block::size); at += Block::size) {
+			Block const bytes(at);
+			auto const found = bytes.equal_to(quote) | bytes.equal_to('<') | bytes.equal_to('&');
 			if (found != 0) {
-				return at + lowest(found);
+				return at + Block::position(found);
 			}
-			at += sizeof(word);
 		}
 	}
 	while (at != end && !ends_value(*at, quote)) {

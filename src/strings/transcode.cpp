@@ -8,7 +8,6 @@
 #include <string>
 #include <utility>
 
-#include "kernels/ascii_blocks.hpp"
 #include "kernels/decode.hpp"
 #include "kernels/kernels.hpp"
 
