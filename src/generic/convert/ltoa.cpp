@@ -64,14 +64,26 @@ template <class Unit>
 	}
 }
 
+/// The same where one digit may be all: the number of digits needs no look then.
+template <class Unit>
+[[gnu::always_inline]] inline void write_unsigned(std::uint64_t value, Unit *buffer, unsigned int radix) noexcept {
+	if (value < 10 && radix == 10) {
+		buffer[0] = static_cast<Unit>('0' + value);
+		buffer[1] = Unit();
+	} else {
+		write_digits(value, buffer, radix);
+	}
+}
+
 template <class Unit>
 void write_signed(types::int64 value, Unit *buffer, unsigned int radix) noexcept {
-	auto magnitude = static_cast<std::uint64_t>(value);
+	auto const magnitude = static_cast<std::uint64_t>(value);
 	if (value < 0 && radix >= 2) {
 		*buffer++ = static_cast<Unit>('-');
-		magnitude = 0 - magnitude;
+		write_digits(0 - magnitude, buffer, radix);
+	} else {
+		write_unsigned(magnitude, buffer, radix);
 	}
-	write_digits(magnitude, buffer, radix);
 }
 
 /// The smallest number of 64 bits stays negative without its sign: one digit is written, the low
@@ -109,15 +121,15 @@ void ltoa(types::int32 value, types::utf32_char *const buffer, unsigned int radi
 }
 
 void ultoa(types::uint32 value, char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 void ultoa(types::uint32 value, types::wide_char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 void ultoa(types::uint32 value, types::utf32_char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 void lltoa(types::int64 value, char *const buffer, unsigned int radix) noexcept {
@@ -133,15 +145,15 @@ void lltoa(types::int64 value, types::utf32_char *const buffer, unsigned int rad
 }
 
 void ulltoa(types::uint64 value, char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 void ulltoa(types::uint64 value, types::wide_char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 void ulltoa(types::uint64 value, types::utf32_char *const buffer, unsigned int radix) noexcept {
-	write_digits(value, buffer, radix);
+	write_unsigned(value, buffer, radix);
 }
 
 } // namespace QUOR_2_9::generic::convert

@@ -298,14 +298,15 @@ template <class Result, class Unit>
 [[gnu::always_inline]] inline Result read(Unit const *text, uint32 length, uint32 radix, bool throw_on_range) {
 	plain_text<Result, Unit> const plain(text, length);
 	if (plain.size - 4 > 4) {
-		if (plain.size == 1 && radix == 10) {
-			uint32 const digit = detail::digit_value(*plain.digits);
+		if (length == 1 && radix == 10) {
+			uint32 const digit = detail::digit_value(*text);
 			if (digit < 10) {
-				return with_sign<Result>(digit, plain.negative);
+				return static_cast<Result>(digit);
 			}
 		}
-		return plain.size - 9 <= kernels::digits::most_digits ? read_long<Result>(text, length, radix, throw_on_range)
-		                                                      : read_few<Result>(text, length, radix, throw_on_range);
+		return plain.size - 9 <= kernels::digits::most_digits - 9
+		           ? read_long<Result>(text, length, radix, throw_on_range)
+		           : read_few<Result>(text, length, radix, throw_on_range);
 	}
 	if (plain.is_decimal(radix)) {
 		auto const [number, known] = blocks::read_decimal(plain.digits, plain.size);
