@@ -61,7 +61,7 @@ public:
 
 	mask equal_to(char c) const noexcept { return bits(_mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(c))); }
 	mask up_to(char last) const noexcept {
-		return bits(_mm_cmpeq_epi8(_mm_min_epu8(m_bytes, _mm_set1_epi8(last)), m_bytes));
+		return bits(_mm_cmpeq_epi8(_mm_subs_epu8(m_bytes, _mm_set1_epi8(last)), _mm_setzero_si128()));
 	}
 
 	static std::size_t position(mask bit) noexcept { return static_cast<std::size_t>(std::countr_zero(bit)); }

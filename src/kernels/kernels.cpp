@@ -1,5 +1,6 @@
 #include "kernels/kernels.hpp"
 
+#include <algorithm>
 #include <atomic>
 #include <iterator>
 
@@ -34,10 +35,9 @@ constinit variant const undecided = {"undecided",
 constinit std::atomic<variant const *> chosen{&undecided};
 
 variant const &choose() noexcept {
-	variant const *const *first = std::begin(compiled);
-	while (!(*first)->runs_here()) {
-		++first;
-	}
+	// The last one runs anywhere.
+	auto const *const first = std::find_if(std::begin(compiled), std::prev(std::end(compiled)),
+	                                       [](variant const *each) { return each->runs_here(); });
 	// Threads that come here at once store the same.
 	chosen.store(*first, std::memory_order_release);
 	return **first;

@@ -40,19 +40,19 @@ QUOR_VECTOR_PART sequences judge(block_bytes const &bytes) noexcept {
 	if (high == 0) {
 		return {0, 0, 0, true};
 	}
-	// Each bit takes the place of the one in front of it.
-	block_bytes moved = doubled(bytes);
+	// The bits below the highest one are raised to its place, one after the other.
+	block_bytes moved = raised(bytes);
 	std::uint64_t const leads = high_bits(moved) & high;
 	std::uint64_t const continuations = high & ~leads;
 	std::uint64_t const ends = ~continuations >> 1;
-	moved = doubled(moved);
+	moved = raised(moved);
 	std::uint64_t const of_three = high_bits(moved) & leads;
 	if (of_three == 0) {
 		return {ends, high, 0, continuations == leads << 1};
 	}
-	moved = doubled(moved);
+	moved = raised(moved);
 	std::uint64_t const of_four = high_bits(moved) & of_three;
-	std::uint64_t const of_more = high_bits(doubled(moved)) & of_four;
+	std::uint64_t const of_more = high_bits(raised(moved)) & of_four;
 	std::uint64_t const asked = leads << 1 | of_three << 2 | of_four << 3;
 	return {ends, high, of_three, ((continuations ^ asked) | of_more) == 0};
 }
