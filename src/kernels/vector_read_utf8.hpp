@@ -168,7 +168,7 @@ QUOR_VECTOR_PART std::size_t read_up_to_two(char const *in, Out *&out, std::uint
 	return from;
 }
 
-/// A window of six sequences or of four, where what comes next is worth a guess: in a few bytes.
+/// The same in a short text, where the processor's guess is quicker than both.
 template <class Out>
 QUOR_VECTOR_PART int put_guessed(Out *out, __m128i lanes, bool six) noexcept {
 	if (six) {
@@ -180,7 +180,7 @@ QUOR_VECTOR_PART int put_guessed(Out *out, __m128i lanes, bool six) noexcept {
 }
 
 /// The same for any sequences.
-template <bool Few, class Out>
+template <bool Short, class Out>
 QUOR_VECTOR_PART std::size_t read_any(char const *in, Out *&out, std::uint64_t ends, std::size_t last) noexcept {
 	constexpr std::uint64_t four_of_three = 0x924;
 	__m128i const shuffle_of_three = load(windows.shuffles[windows.windows[four_of_three].shuffle]);
@@ -201,16 +201,16 @@ QUOR_VECTOR_PART std::size_t read_any(char const *in, Out *&out, std::uint64_t e
 			out = put_three(out, points_of_four(lanes), lanes);
 		} else {
 			bool const six = window.shuffle < utf8_windows::of_three;
-			out += Few ? put_guessed(out, lanes, six) : put_window(out, lanes, six);
+			out += Short ? put_guessed(out, lanes, six) : put_window(out, lanes, six);
 		}
 	}
 	return from;
 }
 
-template <bool Few, class Out>
+template <bool Short, class Out>
 QUOR_VECTOR_PART std::size_t read_sequences(char const *in, Out *&out, sequences const &found,
                                             std::size_t last) noexcept {
-	return found.up_to_two() ? read_up_to_two(in, out, found.ends, last) : read_any<Few>(in, out, found.ends, last);
+	return found.up_to_two() ? read_up_to_two(in, out, found.ends, last) : read_any<Short>(in, out, found.ends, last);
 }
 
 /// What is too short to be read as a block is taken for one that goes on with zeros, each

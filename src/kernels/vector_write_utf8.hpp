@@ -134,8 +134,9 @@ QUOR_VECTOR_PART std::uint32_t bits_of(__m128i lanes) noexcept {
 	return (static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_packs_epi16(zeros, zeros))) & 0xFF) ^ 0xFF;
 }
 
-/// Whether so few of 8 units are marked that they are written one by one: where the next unit
-/// goes is guessed by the processor then, while the vectors would have to be waited for.
+/// Whether so few of 8 units are marked that those of a short text are written one by one: where
+/// the next unit goes is guessed by the processor then, while the vectors would have to be waited
+/// for. In a long one the guess is wrong too often.
 constexpr bool few(std::uint32_t marks) noexcept {
 	marks &= marks - 1;
 	marks &= marks - 1;
@@ -151,18 +152,20 @@ QUOR_VECTOR_PART void write_run(course<In, char> &at, eight_units const &units, 
 }
 
 /// Eight units, or those up to the first that needs a look of its own, and that one.
-template <class In>
+template <bool Short, class In>
 QUOR_VECTOR_PART bool write_eight(course<In, char> &at) noexcept {
 	eight_units const units = load_eight(at.in);
-	__m128i const marked = beyond_ascii(units);
-	if (!any(marked)) {
-		write_run(at, units, 8);
-		return true;
-	}
-	std::uint32_t const marks = bits_of(marked);
-	if (few(marks)) {
-		write_run(at, units, static_cast<std::size_t>(std::countr_zero(marks)));
-		return step(at);
+	if constexpr (Short) {
+		__m128i const marked = beyond_ascii(units);
+		if (!any(marked)) {
+			write_run(at, units, 8);
+			return true;
+		}
+		std::uint32_t const marks = bits_of(marked);
+		if (few(marks)) {
+			write_run(at, units, static_cast<std::size_t>(std::countr_zero(marks)));
+			return step(at);
+		}
 	}
 	__m128i const other = others(units);
 	if (any(other)) {
@@ -202,7 +205,7 @@ QUOR_VECTOR progress write_few(In const *in, std::size_t size, char *out) noexce
 	course<In, char> at(in, size, out, longest_group);
 	bool well_formed = true;
 	while (well_formed && at.left() >= 8) {
-		well_formed = write_eight(at);
+		well_formed = write_eight<true>(at);
 	}
 	if (well_formed && at.left() != 0) {
 		write_last(at);
@@ -219,7 +222,7 @@ QUOR_VECTOR progress write_many(In const *in, std::size_t size, char *out, std::
 	while (well_formed && at.has(group, longest_group)) {
 		if (!write_group(at)) {
 			for (In const *const stop = at.in + (group - 8); well_formed && at.in < stop;) {
-				well_formed = write_eight(at);
+				well_formed = write_eight<false>(at);
 			}
 		}
 	}
