@@ -45,7 +45,9 @@ private:
 
 	std::uint64_t m_bytes = 0;
 
-	static constexpr std::uint64_t each(unsigned char value) noexcept { return 0x0101010101010101 * value; }
+	static constexpr std::uint64_t each(unsigned char value) noexcept {
+		return std::uint64_t{0x0101010101010101} * value;
+	}
 };
 
 #ifdef __SSE2__
