@@ -1,11 +1,9 @@
 #ifndef QUOR_KERNELS_VECTOR_WRITE_UTF8_HPP
 #define QUOR_KERNELS_VECTOR_WRITE_UTF8_HPP
 
-#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include <quor/types/widths.hpp>
 

@@ -236,7 +236,10 @@ private:
 		}
 		m_events.element_end(m_state.elements.back());
 		m_state.in_tag = false;
-		m_state.elements.pop_back();
+		// Unless the same parser has closed it since.
+		if (!m_state.elements.empty()) {
+			m_state.elements.pop_back();
+		}
 		m_state.attributes.clear();
 		++m_at;
 	}

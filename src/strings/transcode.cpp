@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <iterator>
 #include <stdexcept>
 #include <string>
@@ -72,8 +71,8 @@ std::size_t append_long(Target &result, Source const &text, kernel_of<Target, So
 	return read;
 }
 
-/// Copies a few units, those of another width if they are ASCII. Behind them as many may be read
-/// as a block holds. A call of the general function takes longer than that.
+/// Copies a few units, those of another width if they are ASCII. A call of the general function
+/// takes longer than that.
 template <class In, class Out>
 [[gnu::always_inline]] inline void copy_few(In const *from, std::size_t size, Out *to) noexcept {
 	if (size >= kernels::ascii::block) {

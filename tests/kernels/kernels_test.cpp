@@ -19,6 +19,7 @@
 namespace {
 
 namespace kernels = quor::kernels;
+namespace types = quor::types;
 
 using quor_reference::number;
 using quor_reference::numbers;
@@ -207,11 +208,42 @@ TEST(kernels, can_be_chosen_by_many_threads_at_once) {
 	}
 }
 
-// Static objects of a program may convert text before main.
-std::size_t const before_main = quor::strings::utf8_to_utf32(quor::strings::ustring8(200, 'a')).size();
+// Each of these is the first call of its process where the tests run one by one.
 
-TEST(kernels, can_be_used_before_main) {
-	EXPECT_EQ(before_main, 200U);
+TEST(kernels, first_call_of_utf8_to_utf16_chooses) {
+	types::wide_char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf8_to_utf16("abc", 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], QUOR_W('c'));
+}
+
+TEST(kernels, first_call_of_utf8_to_utf32_chooses) {
+	types::utf32_char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf8_to_utf32("abc", 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], QUOR_U32('c'));
+}
+
+TEST(kernels, first_call_of_utf16_to_utf8_chooses) {
+	char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf16_to_utf8(QUOR_W("abc"), 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], 'c');
+}
+
+TEST(kernels, first_call_of_utf16_to_utf32_chooses) {
+	types::utf32_char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf16_to_utf32(QUOR_W("abc"), 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], QUOR_U32('c'));
+}
+
+TEST(kernels, first_call_of_utf32_to_utf8_chooses) {
+	char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf32_to_utf8(QUOR_U32("abc"), 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], 'c');
+}
+
+TEST(kernels, first_call_of_utf32_to_utf16_chooses) {
+	types::wide_char units[kernels::least_room];
+	EXPECT_EQ(kernels::utf32_to_utf16(QUOR_U32("abc"), 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[2], QUOR_W('c'));
 }
 
 } // namespace

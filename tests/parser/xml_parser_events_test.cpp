@@ -358,4 +358,39 @@ TEST(xml_parser_events, parse_entity_cut_at_the_end_gives_code_1_unless_it_diffe
 	});
 }
 
+TEST(xml_parser_events, strings_of_every_length_follow_one_another) {
+	// The strings that delegates get are the same ones each time: shorter and longer in turn.
+	std::string text = "<r>";
+	std::string events = "r+";
+	for (std::size_t i = 0; i != 80; ++i) {
+		std::size_t const size = i % 2 == 0 ? i + 1 : 80 - i;
+		std::string const name(size, static_cast<char>('a' + i % 26));
+		std::string const value(size, static_cast<char>('A' + i % 26));
+		text.append("<").append(name).append(" ").append(value).append("='").append(value).append("'>");
+		text.append(value).append("</").append(name).append(">");
+		events.append(" ").append(name).append("+ @").append(value).append("=").append(value);
+		events.append(" [").append(value).append("] ").append(name).append("-");
+	}
+	expect_rows({{text + "</r>", parse_error::error_none, 0, "", events + " r-"}});
+}
+
+TEST(xml_parser_events, element_end_that_closes_the_rest_leaves_nothing_to_close) {
+	// The same parser reads another text while it is in the delegate: what it has open is closed
+	// there already.
+	struct closer {
+		xml_parser parser;
+		int calls = 0;
+
+		closer() { parser.on_element_end() = quor::functor::member_function_t(this, &closer::end); }
+		void end(ustring8 const & /*name*/) {
+			if (++calls == 1) {
+				EXPECT_EQ(parser.parse(ustring8("<?xml?></a>")).code(), parse_error::error_none);
+			}
+		}
+	};
+	closer one;
+	EXPECT_EQ(one.parser.parse(ustring8("<?xml?><a/>")).code(), parse_error::error_none);
+	EXPECT_EQ(one.calls, 2);
+}
+
 } // namespace

@@ -10,6 +10,7 @@
 
 #include "reference/text.hpp"
 #include "strings/text_rows.hpp"
+#include "strings/transcode_units.hpp"
 
 namespace {
 
@@ -25,55 +26,17 @@ using quor::strings::utf32_to_utf8;
 using quor::strings::utf8_to_utf16;
 using quor::strings::utf8_to_utf32;
 using quor::types::uint32;
-using quor_test::shown;
+using quor_test::expect_same;
+using quor_test::expect_utf8_to_utf32_agrees;
+using quor_test::utf16_to_utf32_units;
+using quor_test::utf16_to_utf8_units;
+using quor_test::utf32_to_utf16_units;
+using quor_test::utf32_to_utf8_units;
+using quor_test::utf8_to_utf16_units;
+using quor_test::utf8_to_utf32_units;
 using reference::numbers;
 using reference::text_of;
 using reference::units_of;
-
-// One text at a time through the library and the reference; the numbers are the units.
-numbers utf8_to_utf16_units(numbers const &units) {
-	return units_of(utf8_to_utf16(text_of<ustring8>(units)));
-}
-
-numbers utf8_to_utf32_units(numbers const &units) {
-	return units_of(utf8_to_utf32(text_of<ustring8>(units)));
-}
-
-numbers utf16_to_utf8_units(numbers const &units) {
-	return units_of(utf16_to_utf8(text_of<ustring16>(units)));
-}
-
-numbers utf16_to_utf32_units(numbers const &units) {
-	return units_of(utf16_to_utf32(text_of<ustring16>(units)));
-}
-
-numbers utf32_to_utf8_units(numbers const &units) {
-	return units_of(utf32_to_utf8(text_of<ustring32>(units)));
-}
-
-numbers utf32_to_utf16_units(numbers const &units) {
-	return units_of(utf32_to_utf16(text_of<ustring32>(units)));
-}
-
-void expect_same(numbers const &got, numbers const &expected, numbers const &units) {
-	if (got != expected) {
-		ADD_FAILURE() << shown(units) << " gives " << shown(got) << ", expected " << shown(expected);
-	}
-}
-
-// Runs utf8_to_utf32, which throws where the reference has no end.
-void expect_utf8_to_utf32_agrees(numbers const &units) {
-	auto const expected = reference::utf8_to_utf32(units);
-	if (expected) {
-		expect_same(utf8_to_utf32_units(units), *expected, units);
-		return;
-	}
-	try {
-		utf8_to_utf32_units(units);
-		ADD_FAILURE() << shown(units) << " did not throw";
-	} catch (std::length_error const &) {
-	}
-}
 
 struct row {
 	char const *name;
