@@ -299,7 +299,7 @@ template <class Result, class Unit>
 	plain_text<Result, Unit> const plain(text, length);
 	if (plain.size - 4 > 4) {
 		if (length == 1 && radix == 10) {
-			uint32 const digit = detail::digit_value(*text);
+			uint32 const digit = static_cast<uint32>(*text) - '0';
 			if (digit < 10) {
 				return static_cast<Result>(digit);
 			}
