@@ -19,7 +19,6 @@
 namespace {
 
 namespace kernels = quor::kernels;
-namespace types = quor::types;
 
 using quor_reference::number;
 using quor_reference::numbers;
@@ -208,42 +207,37 @@ TEST(kernels, can_be_chosen_by_many_threads_at_once) {
 	}
 }
 
-// Each of these is the first call of its process where the tests run one by one.
+// Each of the following is the first call of its process where the tests run one by one.
+template <class In, class Out>
+void expect_converted(kernels::conversion<In, Out> kernel, In const (&text)[4]) {
+	Out units[kernels::least_room];
+	EXPECT_EQ(kernel(text, 3, units, std::size(units)).written, 3U);
+	EXPECT_EQ(units[0], static_cast<Out>('a'));
+	EXPECT_EQ(units[2], static_cast<Out>('c'));
+}
 
 TEST(kernels, first_call_of_utf8_to_utf16_chooses) {
-	types::wide_char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf8_to_utf16("abc", 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], QUOR_W('c'));
+	expect_converted(&kernels::utf8_to_utf16, "abc");
 }
 
 TEST(kernels, first_call_of_utf8_to_utf32_chooses) {
-	types::utf32_char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf8_to_utf32("abc", 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], QUOR_U32('c'));
+	expect_converted(&kernels::utf8_to_utf32, "abc");
 }
 
 TEST(kernels, first_call_of_utf16_to_utf8_chooses) {
-	char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf16_to_utf8(QUOR_W("abc"), 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], 'c');
+	expect_converted(&kernels::utf16_to_utf8, QUOR_W("abc"));
 }
 
 TEST(kernels, first_call_of_utf16_to_utf32_chooses) {
-	types::utf32_char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf16_to_utf32(QUOR_W("abc"), 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], QUOR_U32('c'));
+	expect_converted(&kernels::utf16_to_utf32, QUOR_W("abc"));
 }
 
 TEST(kernels, first_call_of_utf32_to_utf8_chooses) {
-	char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf32_to_utf8(QUOR_U32("abc"), 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], 'c');
+	expect_converted(&kernels::utf32_to_utf8, QUOR_U32("abc"));
 }
 
 TEST(kernels, first_call_of_utf32_to_utf16_chooses) {
-	types::wide_char units[kernels::least_room];
-	EXPECT_EQ(kernels::utf32_to_utf16(QUOR_U32("abc"), 3, units, std::size(units)).written, 3U);
-	EXPECT_EQ(units[2], QUOR_W('c'));
+	expect_converted(&kernels::utf32_to_utf16, QUOR_U32("abc"));
 }
 
 } // namespace
