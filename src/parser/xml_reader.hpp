@@ -124,10 +124,6 @@ private:
 		return std::string_view(m_at, left()).substr(0, text.size()) == text;
 	}
 
-	static std::string_view between(char const *first, char const *last) noexcept {
-		return {first, static_cast<std::size_t>(last - first)};
-	}
-
 	// The header's end is looked for up to, but not including, the last byte: "<?xml>" has
 	// nothing behind its header, "<?xml> " a broken one.
 	void read_header() {

@@ -8,6 +8,7 @@
 #include <climits>
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 
 #include <quor/types/widths.hpp>
 
@@ -32,6 +33,10 @@ inline constexpr std::array<unsigned char, UCHAR_MAX + 1> byte_classes = [] {
 
 inline bool is_of(char c, byte_class wanted) noexcept {
 	return (byte_classes[static_cast<unsigned char>(c)] & wanted) != 0;
+}
+
+inline std::string_view between(char const *first, char const *last) noexcept {
+	return {first, static_cast<std::size_t>(last - first)};
 }
 
 using kernels::blocks_work;
