@@ -43,7 +43,7 @@ variant const &choose() noexcept {
 	return **first;
 }
 
-/// The variant to call, chosen or not. A short text takes no longer than a test for that would.
+/// The variant to call, chosen or not: a test for that would take as long as a short text.
 variant const &current() noexcept {
 	return *chosen.load(std::memory_order_acquire);
 }
