@@ -19,8 +19,8 @@ LIBRARY = "quor"
 HEAD = """# Benchmark results
 
 Written by `tools/bench`; the programs stand in `bench/`. All competitors of an operation run in
-one process on the same input, in turns whose order is random, and are first checked to give the
-same results. Times are medians of processor time; only the ratios compare from one machine to
+one process on the same input, in turns whose order is random and before the next operation's
+turns begin, and are first checked to give the same results. Times are medians of processor time; only the ratios compare from one machine to
 another. A limit is what we hold ourselves to (`tools/bench` fails beyond it), an aim what we
 would like. A limit such as "0.25 + 2 ns" allows the call of an operation of a few nanoseconds
 that much more than the ratio; the aim is a ratio alone.
