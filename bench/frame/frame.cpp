@@ -54,6 +54,10 @@ void limit(std::string const &operation, std::string const &peer, double most, d
 	tell("limit", operation + "/" + peer, decimal(most) + " " + decimal(aim) + " " + decimal(extra_ns));
 }
 
+void median_limit(std::string const &part, std::string const &peer, double most) {
+	tell("median", part + "/" + peer, decimal(most));
+}
+
 void figure(std::string const &name, std::string const &competitor, double value) {
 	tell("figure", name + "/" + competitor, decimal(value));
 }

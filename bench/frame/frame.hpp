@@ -40,6 +40,9 @@ inline constexpr double call_ns = 2;
 /// multiple that we would like, 0 for none.
 void limit(std::string const &operation, std::string const &peer, double most, double aim = 0, double extra_ns = 0);
 
+/// The median of the ratios to `peer` of all operations that have `part` in their names is at most `most`.
+void median_limit(std::string const &part, std::string const &peer, double most);
+
 /// A number that isn't a time, the smaller the better.
 void figure(std::string const &name, std::string const &competitor, double value);
 

@@ -72,6 +72,7 @@ void describe() {
 	}
 	limit_all(competitor, 1, 1.0 / 3, [](sample const &text) { return text.is_long; });
 	limit_all(competitor, 1, 0, [](sample const &text) { return !text.is_long; });
+	bench::median_limit("1 MB of", competitor, 1.0 / 3);
 }
 
 bench::entry const added(&describe);

@@ -12,6 +12,7 @@ import json
 import pathlib
 import platform
 import re
+import statistics
 import sys
 import typing
 
@@ -63,6 +64,7 @@ class Area:
                 self.times.setdefault(operation, {})[competitor] = seconds(run)
                 self.repetitions = run["repetitions"]
         self.limits = {}  # operation -> peer -> Limit
+        self.medians = []  # (part of operations' names, peer, most)
         self.figures = {}  # figure -> competitor -> number
         self.bounds = {}  # figure -> number
         for key, value in data["context"].items():
@@ -70,6 +72,8 @@ class Area:
             if kind == "limit":
                 operation, peer = split(name)
                 self.limits.setdefault(operation, {})[peer] = Limit(*map(float, value.split()))
+            elif kind == "median":
+                self.medians.append((*split(name), float(value)))
             elif kind == "figure":
                 figure, competitor = split(name)
                 self.figures.setdefault(figure, {})[competitor] = float(value)
@@ -101,6 +105,17 @@ class Area:
             else:
                 yield [figure, short(own), peers, short(most), self.judge(figure, own, most)]
 
+    def median_rows(self):
+        for part, peer, most in self.medians:
+            ratios = [times[LIBRARY] / times[peer] for operation, times in self.times.items()
+                      if part in operation and LIBRARY in times and peer in times]
+            what = f'{LIBRARY} / {peer}, median of the {len(ratios)} operations with "{part}"'
+            if not ratios:
+                yield [what, "", "", short(most), "not measured"]
+                continue
+            median = statistics.median(ratios)
+            yield [what, f"{median:.2f}", "", short(most), self.judge(what, median, most)]
+
     def judge(self, what, value, most, aim=0):
         if value > most:
             self.broken.append(f"{self.name}: {what}: {value:.3g} is more than {most:.3g}")
@@ -119,9 +134,10 @@ class Area:
         lines.append("")
         lines += table(["operation", LIBRARY, "peer", "its time", f"{LIBRARY} / peer", "limit", "met"], "lrlrrll",
                        self.time_rows())
-        if self.figures:
+        figures = [*self.median_rows(), *self.figure_rows()]
+        if figures:
             lines.append("")
-            lines += table(["figure", LIBRARY, "peers", "limit", "met"], "lrlrl", self.figure_rows())
+            lines += table(["figure", LIBRARY, "peers", "limit", "met"], "lrlrl", figures)
         return "\n".join(lines) + "\n"
 
 
