@@ -1,4 +1,5 @@
-// Runs what is named on the command line, in the options of the benchmark library.
+// Runs what is named on the command line, in the options of the benchmark library and one more:
+// --passes=N runs the repetitions of each operation N times.
 
 #include <algorithm>
 #include <cstdlib>
@@ -65,9 +66,9 @@ private:
 	std::regex expression_{"."};
 };
 
-/// Runs one operation after the other, with the competitors of each close to one another in time:
-/// what else the machine does at that moment slows all of them.
-void run_each_operation() {
+/// Runs one operation after the other, and each in passes, in all of which every competitor has its
+/// repetitions: what else the machine does at that moment slows all of them.
+void run_each_operation(unsigned long passes) {
 	joined_report report;
 	name_filter const filter(benchmark::GetBenchmarkFilter());
 	bool any = false;
@@ -77,10 +78,10 @@ void run_each_operation() {
 			benchmark::RegisterBenchmark(name.c_str(), run);
 			wanted = wanted || filter.takes(name);
 		}
-		if (wanted) {
+		for (unsigned long pass = 0; wanted && pass != passes; ++pass) {
 			benchmark::RunSpecifiedBenchmarks(&report);
-			any = true;
 		}
+		any = any || wanted;
 		benchmark::ClearRegisteredBenchmarks();
 	}
 	if (!any) {
@@ -90,23 +91,41 @@ void run_each_operation() {
 	report.finish();
 }
 
+/// Takes what isn't an option of the benchmark library out of a command line.
+unsigned long take_passes(std::vector<char *> &options) {
+	constexpr std::string_view own = "--passes=";
+	unsigned long passes = 1;
+	auto const is_own = [&](char const *option) {
+		std::string_view const text = option;
+		if (text.rfind("--benchmark_out", 0) == 0) {
+			std::cerr << "bench: each pass would begin the file anew; use --benchmark_format=json >FILE\n";
+			std::exit(EXIT_FAILURE);
+		}
+		if (text.rfind(own, 0) != 0) {
+			return false;
+		}
+		passes = std::strtoul(option + own.size(), nullptr, 10);
+		return true;
+	};
+	options.erase(std::remove_if(options.begin(), options.end(), is_own), options.end());
+	return passes;
+}
+
 } // namespace
 
 int main(int argc, char **argv) try {
-	for (int i = 1; i < argc; ++i) {
-		if (std::string_view(argv[i]).rfind("--benchmark_out", 0) == 0) {
-			std::cerr << "bench: each operation would begin the file anew; use --benchmark_format=json >FILE\n";
-			return EXIT_FAILURE;
-		}
-	}
-	benchmark::Initialize(&argc, argv);
-	if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+	std::vector<char *> options(argv, argv + argc);
+	unsigned long const passes = take_passes(options);
+	argc = static_cast<int>(options.size());
+	options.push_back(nullptr);
+	benchmark::Initialize(&argc, options.data());
+	if (benchmark::ReportUnrecognizedArguments(argc, options.data())) {
 		return EXIT_FAILURE;
 	}
 	for (auto const describe : bench::entries()) {
 		describe();
 	}
-	run_each_operation();
+	run_each_operation(passes);
 	benchmark::Shutdown();
 	return EXIT_SUCCESS;
 } catch (std::regex_error const &error) {

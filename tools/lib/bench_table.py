@@ -2,9 +2,9 @@
 
 usage: bench_table.py [--compiler TEXT] [--peers TEXT] [--results FILE] JSON...
 
-Each JSON file is the output of one program, named after its area: ratios of medians
-come from its aggregates, limits and figures from its context. In FILE the sections of
-the areas are replaced and the others kept. Fails when a limit is broken.
+Each JSON file is the output of one program, named after its area: times are the medians of
+all repetitions, limits and figures come from its context. In FILE the sections of the areas are
+replaced and the others kept. Fails when a limit is broken.
 """
 
 import argparse
@@ -20,10 +20,10 @@ LIBRARY = "quor"
 HEAD = """# Benchmark results
 
 Written by `tools/bench`; the programs stand in `bench/`. All competitors of an operation run in
-one process on the same input, in turns whose order is random and before the next operation's
-turns begin, and are first checked to give the same results. Times are medians of processor time; only the ratios compare from one machine to
-another. A limit is what we hold ourselves to (`tools/bench` fails beyond it), an aim what we
-would like. A limit such as "0.25 + 2 ns" allows the call of an operation of a few nanoseconds
+one process on the same input and are first checked to give the same results. They take turns in
+random order, and some turns of each come before more of any. Times are medians of processor time;
+only the ratios compare from one machine to another. A limit is what we hold ourselves to
+(`tools/bench` fails beyond it), an aim what we would like. A limit such as "0.25 + 2 ns" allows the call of an operation of a few nanoseconds
 that much more than the ratio; the aim is a ratio alone.
 """
 
@@ -54,15 +54,16 @@ class Area:
         self.name = path.stem
         self.date = data["context"]["date"][:10]
         self.cores = data["context"]["num_cpus"]
-        self.times = {}  # operation -> competitor -> seconds
-        self.repetitions = 0
+        samples = {}  # operation -> competitor -> list of seconds
         for run in sorted(data["benchmarks"], key=lambda run: run["family_index"]):
             if run.get("error_occurred"):
                 raise SystemExit(f"bench: {run['name']}: {run['error_message']}")
-            if run.get("aggregate_name") == "median":
+            if run["run_type"] == "iteration":
                 operation, competitor = split(run["run_name"])
-                self.times.setdefault(operation, {})[competitor] = seconds(run)
-                self.repetitions = run["repetitions"]
+                samples.setdefault(operation, {}).setdefault(competitor, []).append(seconds(run))
+        self.times = {operation: {competitor: statistics.median(times) for competitor, times in of_each.items()}
+                      for operation, of_each in samples.items()}
+        self.repetitions = min((len(times) for of_each in samples.values() for times in of_each.values()), default=0)
         self.limits = {}  # operation -> peer -> Limit
         self.medians = []  # (part of operations' names, peer, most)
         self.figures = {}  # figure -> competitor -> number
