@@ -23,8 +23,9 @@ Written by `tools/bench`; the programs stand in `bench/`. All competitors of an 
 one process on the same input and are first checked to give the same results. They take turns in
 random order, and some turns of each come before more of any. Times are medians of processor time;
 only the ratios compare from one machine to another. A limit is what we hold ourselves to
-(`tools/bench` fails beyond it), an aim what we would like. A limit such as "0.25 + 2 ns" allows the call of an operation of a few nanoseconds
-that much more than the ratio; the aim is a ratio alone.
+(`tools/bench` fails beyond it), an aim what we would like. A limit such as "0.25 + 2 ns" allows
+the call of an operation of a few nanoseconds that much more than the ratio; the aim is a ratio
+alone.
 """
 
 
