@@ -2,12 +2,14 @@
 // --passes=N runs the repetitions of each operation N times.
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <regex>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -66,9 +68,14 @@ private:
 	std::regex expression_{"."};
 };
 
+[[noreturn]] void refuse(std::string const &why) {
+	std::cerr << "bench: " << why << '\n';
+	std::exit(EXIT_FAILURE);
+}
+
 /// Runs one operation after the other, and each in passes, in all of which every competitor has its
 /// repetitions: what else the machine does at that moment slows all of them.
-void run_each_operation(unsigned long passes) {
+void run_each_operation(unsigned int passes) {
 	joined_report report;
 	name_filter const filter(benchmark::GetBenchmarkFilter());
 	bool any = false;
@@ -78,36 +85,39 @@ void run_each_operation(unsigned long passes) {
 			benchmark::RegisterBenchmark(name.c_str(), run);
 			wanted = wanted || filter.takes(name);
 		}
-		for (unsigned long pass = 0; wanted && pass != passes; ++pass) {
+		for (unsigned int pass = 0; wanted && pass != passes; ++pass) {
 			benchmark::RunSpecifiedBenchmarks(&report);
 		}
 		any = any || wanted;
 		benchmark::ClearRegisteredBenchmarks();
 	}
 	if (!any) {
-		std::cerr << "bench: nothing to measure has such a name\n";
-		std::exit(EXIT_FAILURE);
+		refuse("nothing to measure has such a name");
 	}
 	report.finish();
 }
 
 /// Takes what isn't an option of the benchmark library out of a command line.
-unsigned long take_passes(std::vector<char *> &options) {
+unsigned int take_passes(std::vector<char *> &options) {
 	constexpr std::string_view own = "--passes=";
-	unsigned long passes = 1;
-	auto const is_own = [&](char const *option) {
+	unsigned int passes = 1;
+	std::vector<char *> others;
+	for (char *const option : options) {
 		std::string_view const text = option;
 		if (text.rfind("--benchmark_out", 0) == 0) {
-			std::cerr << "bench: each pass would begin the file anew; use --benchmark_format=json >FILE\n";
-			std::exit(EXIT_FAILURE);
+			refuse("each pass would begin the file anew; use --benchmark_format=json >FILE");
 		}
 		if (text.rfind(own, 0) != 0) {
-			return false;
+			others.push_back(option);
+			continue;
 		}
-		passes = std::strtoul(option + own.size(), nullptr, 10);
-		return true;
-	};
-	options.erase(std::remove_if(options.begin(), options.end(), is_own), options.end());
+		char const *const end = text.data() + text.size();
+		auto const [rest, error] = std::from_chars(text.data() + own.size(), end, passes);
+		if (error != std::errc() || rest != end || passes == 0) {
+			refuse("--passes takes a number from 1 on");
+		}
+	}
+	options = std::move(others);
 	return passes;
 }
 
@@ -115,7 +125,7 @@ unsigned long take_passes(std::vector<char *> &options) {
 
 int main(int argc, char **argv) try {
 	std::vector<char *> options(argv, argv + argc);
-	unsigned long const passes = take_passes(options);
+	unsigned int const passes = take_passes(options);
 	argc = static_cast<int>(options.size());
 	options.push_back(nullptr);
 	benchmark::Initialize(&argc, options.data());
